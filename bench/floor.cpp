@@ -1,0 +1,134 @@
+// The floor of the benchmark: what a bare Xerces-C program spends on a file, with the parser
+// features that the real program sets. Nothing is read from the document that the parser builds.
+//
+//     floor schema FILE   load FILE as a grammar, then parse it
+//     floor load FILE     load FILE as a grammar
+//     floor plain FILE    one pass without schema and validation
+//     floor valid FILE    one pass with schema and validation
+//     floor twice FILE    both passes, one after the other, with one parser
+//
+// The exit status is 0 when there was no error and no warning, 1 when there was one, 2 for bad
+// usage.
+
+#include <exception>
+#include <functional>
+#include <iostream>
+#include <map>
+#include <string>
+
+#include <xercesc/parsers/XercesDOMParser.hpp>
+#include <xercesc/sax/HandlerBase.hpp>
+#include <xercesc/util/PlatformUtils.hpp>
+#include <xercesc/util/XMLException.hpp>
+#include <xercesc/validators/common/Grammar.hpp>
+
+namespace {
+
+using xercesc::XercesDOMParser;
+
+class CKTPlatform {
+public:
+    CKTPlatform() { xercesc::XMLPlatformUtils::Initialize(); }
+    ~CKTPlatform() { xercesc::XMLPlatformUtils::Terminate(); }
+    CKTPlatform(const CKTPlatform&) = delete;
+    CKTPlatform& operator=(const CKTPlatform&) = delete;
+};
+
+class CKTCountingHandler : public xercesc::HandlerBase {
+public:
+    void warning(const xercesc::SAXParseException&) override { ++m_nProblems; }
+    void error(const xercesc::SAXParseException&) override { ++m_nProblems; }
+    void fatalError(const xercesc::SAXParseException&) override { ++m_nProblems; }
+    // The parser calls this at the start of every parse; the count is of the whole run.
+    void resetErrors() override {}
+
+    [[nodiscard]] int problems() const { return m_nProblems; }
+
+private:
+    int m_nProblems = 0;
+};
+
+void configure(XercesDOMParser& parser, CKTCountingHandler& handler) {
+    parser.setDoNamespaces(true);
+    parser.setDoSchema(true);
+    parser.setIncludeIgnorableWhitespace(false);
+    parser.setCreateEntityReferenceNodes(false);
+    parser.setErrorHandler(&handler);
+}
+
+bool loadGrammar(XercesDOMParser& parser, const std::string& file) {
+    parser.setValidationScheme(XercesDOMParser::Val_Auto);
+    const bool toCache = true;
+    return parser.loadGrammar(file.c_str(), xercesc::Grammar::SchemaGrammarType, toCache) !=
+           nullptr;
+}
+
+bool loadAndParse(XercesDOMParser& parser, const std::string& file) {
+    if (!loadGrammar(parser, file)) {
+        return false;
+    }
+    parser.useCachedGrammarInParse(true);
+    parser.parse(file.c_str());
+    return true;
+}
+
+bool parsePlain(XercesDOMParser& parser, const std::string& file) {
+    parser.setDoSchema(false);
+    parser.setValidationScheme(XercesDOMParser::Val_Never);
+    parser.parse(file.c_str());
+    return true;
+}
+
+bool parseValid(XercesDOMParser& parser, const std::string& file) {
+    parser.setDoSchema(true);
+    parser.setValidationScheme(XercesDOMParser::Val_Always);
+    parser.parse(file.c_str());
+    return true;
+}
+
+bool parseTwice(XercesDOMParser& parser, const std::string& file) {
+    parsePlain(parser, file);
+    parser.resetDocumentPool();
+    return parseValid(parser, file);
+}
+
+using Task = std::function<bool(XercesDOMParser&, const std::string&)>;
+
+int run(const Task& task, const std::string& file) {
+    const CKTPlatform platform;
+    CKTCountingHandler handler;
+    XercesDOMParser parser;
+    configure(parser, handler);
+    try {
+        const bool done = task(parser, file);
+        if (!done || handler.problems() > 0) {
+            std::cerr << "floor: " << file << ": " << handler.problems() << " problem(s)\n";
+            return 1;
+        }
+    } catch (const xercesc::XMLException&) {
+        std::cerr << "floor: " << file << ": the parser gave up\n";
+        return 1;
+    }
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const std::map<std::string, Task> tasks{{"schema", loadAndParse},
+                                            {"load", loadGrammar},
+                                            {"plain", parsePlain},
+                                            {"valid", parseValid},
+                                            {"twice", parseTwice}};
+    const auto task = argc == 3 ? tasks.find(argv[1]) : tasks.end();
+    if (task == tasks.end()) {
+        std::cerr << "usage: floor schema|load|plain|valid|twice FILE\n";
+        return 2;
+    }
+    try {
+        return run(task->second, argv[2]);
+    } catch (const std::exception& problem) {
+        std::cerr << "floor: " << problem.what() << '\n';
+        return 1;
+    }
+}
