@@ -1,0 +1,193 @@
+#include "support/Files.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <limits>
+#include <memory>
+#include <random>
+#include <sstream>
+#include <vector>
+
+#include "support/Console.h"
+#include "support/Text.h"
+
+namespace {
+
+constexpr std::size_t kAnswerSize = 1024;
+constexpr std::size_t kOutputBufferSize = 65536;
+
+/// Reads one line of at most the answer buffer's size from standard input and drops the rest of a
+/// longer one. Returns false at the end of the input.
+bool ReadAnswer(std::string& answer) {
+    std::array<char, kAnswerSize> buffer{};
+    std::cin.getline(buffer.data(), buffer.size());
+    answer = buffer.data();
+    if (std::cin.eof() && answer.empty()) {
+        return false;
+    }
+    if (std::cin.fail() && !std::cin.bad()) {
+        std::cin.clear();
+        std::cin.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
+    }
+    return !std::cin.bad();
+}
+
+bool AskToKeep(const std::string& name) {
+    // The console is lent for the first question only: a repeated one goes where the errors go.
+    auto console = std::make_unique<CKTConsoleForErrors>();
+    std::cerr << "\n";
+    WriteLine(std::cerr, {"Warning : The file \"", name, "\" already exists"});
+    for (;;) {
+        std::cerr << "Would you like to overwrite " << name << "? (y/n) ";
+        std::string answer;
+        const bool more = ReadAnswer(answer);
+        console.reset();
+        if (!more || answer == "N" || answer == "n") {
+            return true;
+        }
+        if (answer == "Y" || answer == "y") {
+            return false;
+        }
+    }
+}
+
+std::string RandomStem() {
+    static constexpr std::string_view kLetters =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
+    std::random_device device;
+    std::uniform_int_distribution<std::size_t> letter(0, kLetters.size() - 1);
+    std::string stem = "file";
+    for (int i = 0; i < 6; ++i) {
+        stem += kLetters[letter(device)];
+    }
+    return stem;
+}
+
+}  // namespace
+
+bool FileExists(const std::string& name, bool prompt) {
+    if (name.empty()) {
+        WriteLine(std::cout, {"Error : Invalid Filename.  Unable to create \"", name, "\""});
+        return true;
+    }
+    // Without blocking, so that a pipe that nobody writes to does not hold the program up.
+    const int file = ::open(name.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (file < 0) {
+        return false;
+    }
+    if (::close(file) != 0) {
+        WriteLine(std::cout,
+                  {"Error : Failed to close file \"", name, "\" Ending DORVEX process. "});
+        RestoreStreams();
+        std::exit(1);
+    }
+    return !prompt || AskToKeep(name);
+}
+
+bool CopyFileToFile(const std::string& from, const std::string& to) {
+    std::ifstream input(from, std::ios::binary);
+    bool copied = false;
+    if (input.is_open()) {
+        std::ofstream output(to, std::ios::binary | std::ios::trunc);
+        std::string line;
+        while (output.good() && !input.eof()) {
+            std::getline(input, line);
+            if (!input.eof() && input.fail()) {
+                break;
+            }
+            output << line << '\n';
+        }
+        output.close();
+        copied = input.eof() && !input.bad() && !output.fail();
+    }
+    if (!copied) {
+        WriteLine(std::cout, {"Error : Unable to copy file contents of ", from, " to ", to});
+    }
+    return copied;
+}
+
+std::string GetTemporaryFilename(const char* extensions) {
+    std::vector<std::string> endings;
+    std::istringstream list(extensions);
+    for (std::string ending; list >> ending;) {
+        endings.push_back(ending.starts_with('.') ? ending : "." + ending);
+    }
+    for (;;) {
+        std::string stem = RandomStem();
+        const bool taken = std::any_of(endings.begin(), endings.end(), [&](const std::string& e) {
+            return FileExists(stem + e, false);
+        });
+        if (taken) {
+            continue;
+        }
+        std::string const reserved = stem + (endings.empty() ? "" : endings.back());
+        const int file = ::open(reserved.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (file >= 0) {
+            ::close(file);
+            return stem;
+        }
+        if (errno != EEXIST) {
+            WriteLine(std::cout, {"Error : Unable to create temporary file \"", reserved, "\""});
+            return {};
+        }
+    }
+}
+
+std::string ProcessSpaceyFilename(const std::string& name, std::FILE* trace) {
+    std::wstring wide = my_mbstowcs(name.c_str());
+    std::erase(wide, L'"');
+    if (trace != nullptr) {
+        std::fprintf(trace, "Removed Quotes : %s\n", my_wcstombs(wide.c_str()).c_str());
+    }
+    if (wide.find(L' ') != std::wstring::npos) {
+        wide = L'"' + wide + L'"';
+    }
+    std::string result = my_wcstombs(wide.c_str());
+    if (trace != nullptr) {
+        std::fprintf(trace, "Final Filename : %s\n", result.c_str());
+    }
+    return result;
+}
+
+void ReportUnwritableOutput(const std::string& name) {
+    WriteLine(std::cerr, {"Error : Unable to write output file \"", name, "\""});
+}
+
+CKTOutputFile::CKTOutputFile(const std::string& name) : m_Buffer(kOutputBufferSize) {
+    m_File.rdbuf()->pubsetbuf(m_Buffer.data(), static_cast<std::streamsize>(m_Buffer.size()));
+    if (name.empty()) {
+        return;
+    }
+    m_File.open(name, std::ios::binary | std::ios::trunc);
+    if (m_File.is_open()) {
+        std::cout.flush();
+        m_pSavedBuffer = std::cout.rdbuf(m_File.rdbuf());
+        m_bRedirected = true;
+        // Otherwise each message on standard error would flush the file.
+        m_pSavedTie = std::cerr.tie(nullptr);
+    }
+}
+
+CKTOutputFile::~CKTOutputFile() {
+    Close();
+}
+
+bool CKTOutputFile::Close() {
+    std::cout.flush();
+    bool written = std::cout.good();
+    if (m_bRedirected) {
+        std::cout.rdbuf(m_pSavedBuffer);
+        std::cerr.tie(m_pSavedTie);
+        m_bRedirected = false;
+        m_File.close();
+        written = written && !m_File.fail();
+    }
+    return written;
+}

@@ -1,0 +1,149 @@
+#include "support/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+#include <cwchar>
+#include <iostream>
+#include <limits>
+
+#include "support/Console.h"
+
+namespace {
+
+int LowerByte(char c) {
+    return std::tolower(static_cast<unsigned char>(c));
+}
+
+bool IsAscii(std::u16string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char16_t c) { return c < 0x80; });
+}
+
+std::wstring JoinSurrogates(std::u16string_view text) {
+    std::wstring wide;
+    wide.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char32_t unit = text[i];
+        const bool pair = unit >= 0xD800 && unit < 0xDC00 && i + 1 < text.size() &&
+                          text[i + 1] >= 0xDC00 && text[i + 1] < 0xE000;
+        wide += static_cast<wchar_t>(pair ? 0x10000 + ((unit - 0xD800) << 10) + (text[++i] - 0xDC00)
+                                          : unit);
+    }
+    return wide;
+}
+
+}  // namespace
+
+const char* my_strrchr(const char* text, const char* sub) {
+    const char* last = "";
+    std::mblen(nullptr, 0);
+    for (const char* at = text; *at != '\0';) {
+        const int measured = std::mblen(at, MB_CUR_MAX);
+        const int length = measured > 0 ? measured : 1;
+        if (my_strnicmp(at, sub, length) == 0) {
+            last = at;
+        }
+        at += length;
+    }
+    return last;
+}
+
+std::wstring my_mbstowcs(const char* text) {
+    if (text == nullptr) {
+        return {};
+    }
+    const std::size_t length = std::mbstowcs(nullptr, text, 0);
+    if (length == static_cast<std::size_t>(-1)) {
+        WriteLine(std::cerr, {"Error : Unable to convert multibyte character to Unicode"});
+        return {};
+    }
+    std::wstring wide(length + 1, L'\0');
+    std::mbstowcs(wide.data(), text, length + 1);
+    wide.resize(length);
+    return wide;
+}
+
+std::string my_wcstombs(const wchar_t* text) {
+    if (text == nullptr) {
+        return {};
+    }
+    const std::size_t length = std::wcstombs(nullptr, text, 0);
+    if (length == static_cast<std::size_t>(-1)) {
+        WriteLine(std::cerr, {"Error : Unable to convert Unicode character to multibyte"});
+        return {};
+    }
+    std::string narrow(length + 1, '\0');
+    std::wcstombs(narrow.data(), text, length + 1);
+    narrow.resize(length);
+    return narrow;
+}
+
+int my_stricmp(const char* a, const char* b) {
+    return my_strnicmp(a, b, INT_MAX);
+}
+
+int my_strnicmp(const char* a, const char* b, int n) {
+    for (int i = 0; i < n; ++i) {
+        const int difference = LowerByte(a[i]) - LowerByte(b[i]);
+        if (difference != 0 || a[i] == '\0') {
+            return difference;
+        }
+    }
+    return 0;
+}
+
+std::string NarrowText(std::u16string_view text) {
+    if (IsAscii(text)) {
+        return {text.begin(), text.end()};
+    }
+    return my_wcstombs(JoinSurrogates(text).c_str());
+}
+
+std::string NarrowMessage(std::u16string_view text) {
+    std::string narrow;
+    std::mbstate_t state{};
+    std::array<char, MB_LEN_MAX> bytes{};
+    for (const wchar_t c : JoinSurrogates(text)) {
+        const std::size_t length = std::wcrtomb(bytes.data(), c, &state);
+        if (length == static_cast<std::size_t>(-1)) {
+            narrow += '?';
+            state = {};
+        } else {
+            narrow.append(bytes.data(), length);
+        }
+    }
+    return narrow;
+}
+
+std::u16string WidenText(const char* text) {
+    std::u16string wide;
+    for (const wchar_t c : my_mbstowcs(text)) {
+        const auto point = static_cast<char32_t>(c);
+        if (point < 0x10000) {
+            wide += static_cast<char16_t>(point);
+        } else {
+            wide += static_cast<char16_t>(0xD800 + ((point - 0x10000) >> 10));
+            wide += static_cast<char16_t>(0xDC00 + ((point - 0x10000) & 0x3FF));
+        }
+    }
+    return wide;
+}
+
+long long ReadInteger(std::string_view text) {
+    const bool negative = text.starts_with('-');
+    if (negative || text.starts_with('+')) {
+        text.remove_prefix(1);
+    }
+    constexpr long long kLimit = (std::numeric_limits<long long>::max() - 9) / 10;
+    long long value = 0;
+    for (const char c : text) {
+        if (c < '0' || c > '9') {
+            break;
+        }
+        value = value >= kLimit ? kLimit * 10 : value * 10 + (c - '0');
+    }
+    return negative ? -value : value;
+}
