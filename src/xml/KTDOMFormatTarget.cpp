@@ -1,0 +1,55 @@
+#include "xml/KTDOMFormatTarget.h"
+
+#include <iostream>
+#include <string>
+
+#include "support/Text.h"
+
+using xercesc::XMLFormatter;
+
+CKTDOMFormatTarget::CKTDOMFormatTarget() : m_pSavedBuffer(std::cout.rdbuf()) {}
+
+void CKTDOMFormatTarget::writeChars(const XMLByte* bytes, XMLSize_t count, XMLFormatter*) {
+    std::cout.write(reinterpret_cast<const char*>(bytes), static_cast<std::streamsize>(count));
+}
+
+void CKTDOMFormatTarget::setTarget(std::ofstream* file) {
+    m_pFileBuffer = file->rdbuf();
+    std::cout.flush();
+    std::cout.rdbuf(m_pFileBuffer);
+}
+
+void CKTDOMFormatTarget::restoreTarget() {
+    std::cout.flush();
+    std::cout.rdbuf(m_pSavedBuffer);
+    m_pFileBuffer = nullptr;
+}
+
+void writeIndent(XMLFormatter& f, unsigned int n) {
+    f << XMLFormatter::NoEscapes << std::string(n, ' ').c_str();
+}
+
+void writeElem(XMLFormatter& f, const char* name) {
+    f << XMLFormatter::NoEscapes << "<" << name;
+}
+
+void writeAttr(XMLFormatter& f, const char* name, const char* value) {
+    f << XMLFormatter::NoEscapes << " " << name << "=\"" << XMLFormatter::AttrEscapes << value
+      << XMLFormatter::NoEscapes << "\"";
+}
+
+XMLFormatter& operator<<(XMLFormatter& f, const char* text) {
+    const std::u16string wide = WidenText(text);
+    if (!wide.empty()) {
+        f.formatBuf(wide.c_str(), wide.size());
+    }
+    return f;
+}
+
+XMLFormatter& operator<<(XMLFormatter& f, const xercesc::DOMNode& node) {
+    return f << node.getNodeName();
+}
+
+std::ostream& operator<<(std::ostream& stream, const XMLCh* text) {
+    return stream << NarrowText(text);
+}

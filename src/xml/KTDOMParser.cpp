@@ -1,0 +1,261 @@
+#include "xml/KTDOMParser.h"
+
+#include <iostream>
+#include <new>
+
+#include <xercesc/dom/DOMException.hpp>
+#include <xercesc/dom/DOMNamedNodeMap.hpp>
+#include <xercesc/framework/LocalFileInputSource.hpp>
+#include <xercesc/framework/URLInputSource.hpp>
+#include <xercesc/util/OutOfMemoryException.hpp>
+#include <xercesc/util/PlatformUtils.hpp>
+#include <xercesc/util/XMLUni.hpp>
+#include <xercesc/validators/common/Grammar.hpp>
+
+#include "support/Console.h"
+#include "support/Text.h"
+
+using xercesc::DOMNode;
+using xercesc::XercesDOMParser;
+
+namespace {
+
+void ReportException(const char* prefix, const xercesc::XMLException& e) {
+    WriteLine(std::cerr, {prefix, NarrowMessage(e.getMessage())});
+}
+
+/// The source that the library itself would make of a file name.
+std::unique_ptr<xercesc::InputSource> SourceOf(const std::u16string& fileName) {
+    xercesc::XMLURL url;
+    if (xercesc::XMLURL::parse(fileName.c_str(), url) && !url.isRelative()) {
+        return std::make_unique<xercesc::URLInputSource>(url);
+    }
+    return std::make_unique<xercesc::LocalFileInputSource>(fileName.c_str());
+}
+
+}  // namespace
+
+CKTDOMParser::CKTDOMParser() : CKTDOMParser(nullptr) {}
+
+CKTDOMParser::CKTDOMParser(std::unique_ptr<xercesc::XMLValidator> validator) {
+    InitializePlatform();
+    m_pDOMParser = std::make_unique<XercesDOMParser>(validator.release());
+    InitializeParser();
+}
+
+CKTDOMParser::~CKTDOMParser() {
+    m_pFormatter.reset();
+    m_pFormatTarget.reset();
+    m_pDOMParser.reset();
+    m_pSchemaGuard.reset();
+    m_pErrorHandler.reset();
+    try {
+        xercesc::XMLPlatformUtils::Terminate();
+    } catch (const xercesc::XMLException& e) {
+        ReportException("Error during Xerces-c termination. Exception message: ", e);
+    }
+}
+
+void CKTDOMParser::InitializePlatform() {
+    try {
+        xercesc::XMLPlatformUtils::Initialize();
+    } catch (const xercesc::XMLException& e) {
+        ReportException("Error during Xerces-c Initialization. Exception message: ", e);
+    }
+}
+
+void CKTDOMParser::InitializeParser() {
+    m_pDOMParser->setDoNamespaces(true);
+    m_pDOMParser->setDoSchema(true);
+    m_pDOMParser->setIncludeIgnorableWhitespace(false);
+    m_pDOMParser->setCreateEntityReferenceNodes(false);
+    m_Limits.setEntityExpansionLimit(kMaxEntityExpansions);
+    m_pDOMParser->setSecurityManager(&m_Limits);
+    m_pErrorHandler.reset(new (std::nothrow) CKTDOMErrorHandler);
+    if (m_pErrorHandler != nullptr) {
+        m_pDOMParser->setErrorHandler(m_pErrorHandler.get());
+        setVerboseError(true);
+        m_pSchemaGuard = std::make_unique<CKTSchemaGuard>(*m_pErrorHandler);
+        m_pDOMParser->setXMLEntityResolver(m_pSchemaGuard.get());
+    } else {
+        WriteLine(std::cerr, {"Failed to create KTDOMErrorHandler"});
+    }
+    m_bParsed = false;
+}
+
+bool CKTDOMParser::ParseFile(const std::string& fileName, FILE_TYPE type, bool validate) {
+    if (m_pErrorHandler != nullptr) {
+        m_pErrorHandler->setMuted(false);
+    }
+    switch (type) {
+        case XML_DOCUMENT:
+            m_pDOMParser->setDoSchema(validate);
+            m_pDOMParser->setValidationScheme(validate ? XercesDOMParser::Val_Always
+                                                       : XercesDOMParser::Val_Never);
+            break;
+        case XML_SCHEMA:
+            std::cout << "\n";
+            WriteLine(std::cout, {"Validating ", fileName, " for well-formedness."});
+            m_pDOMParser->setValidationScheme(XercesDOMParser::Val_Auto);
+            if (!LoadSchema(fileName)) {
+                return false;
+            }
+            break;
+        default:
+            m_pDOMParser->setValidationScheme(XercesDOMParser::Val_Always);
+            break;
+    }
+    return Parse(fileName);
+}
+
+bool CKTDOMParser::LoadSchema(const std::string& fileName) {
+    try {
+        const std::unique_ptr<xercesc::InputSource> source = SourceOf(WidenText(fileName.c_str()));
+        if (m_pSchemaGuard == nullptr || m_pSchemaGuard->IsAcceptable(*source)) {
+            m_pDOMParser->loadGrammar(*source, xercesc::Grammar::SchemaGrammarType, true);
+            m_pDOMParser->useCachedGrammarInParse(true);
+        }
+    } catch (const xercesc::XMLException& e) {
+        ReportException("Error : Unable to load schema. Exception Message: ", e);
+    } catch (const xercesc::DOMException& e) {
+        WriteLine(std::cerr,
+                  {"Error : Unable to load schema. DOMException code: ", std::to_string(e.code)});
+    } catch (const xercesc::OutOfMemoryException&) {
+        WriteLine(std::cerr, {"Error : Unable to load schema. Out of memory"});
+    }
+    return m_pErrorHandler == nullptr || (m_nErrorCount == 0 && m_nWarningCount == 0);
+}
+
+bool CKTDOMParser::Parse(const std::string& fileName) {
+    bool usable = false;
+    try {
+        // An earlier document stays in memory until its pool is emptied.
+        m_pDOMParser->resetDocumentPool();
+        m_pDOMParser->parse(*SourceOf(WidenText(fileName.c_str())));
+        usable = m_pDOMParser->getErrorCount() < 1;
+    } catch (const xercesc::XMLException& e) {
+        ReportException("An error occured during parsing. Exception Message: ", e);
+        usable = true;
+    } catch (const xercesc::DOMException& e) {
+        WriteLine(std::cerr, {"A DOM error occured during parsing. DOMException code: ",
+                              std::to_string(e.code)});
+    } catch (...) {
+        WriteLine(std::cerr, {"An error occured during parsing"});
+    }
+    m_bParsed = usable;
+    return usable;
+}
+
+std::unique_ptr<CKTXMLElement> CKTDOMParser::getXMLDocument() {
+    if (!m_bParsed || m_pDOMParser->getDocument() == nullptr) {
+        return nullptr;
+    }
+    try {
+        m_pFormatter.reset();
+        m_pFormatTarget = std::make_unique<CKTDOMFormatTarget>();
+        m_pFormatter = std::make_unique<xercesc::XMLFormatter>(
+            xercesc::XMLUni::fgUTF8EncodingString, m_pFormatTarget.get(),
+            xercesc::XMLFormatter::NoEscapes, xercesc::XMLFormatter::UnRep_CharRef);
+        auto root = std::make_unique<CKTXMLElement>();
+        root->setParser(this);
+        getXMLElement(*m_pDOMParser->getDocument(), root.get());
+        return root;
+    } catch (const xercesc::XMLException& e) {
+        ReportException("An error occurred during creation of output transcoder. Msg is: ", e);
+        return nullptr;
+    }
+}
+
+// Walks the library's document along its own links, because it may be nested without bound.
+void CKTDOMParser::getXMLElement(const DOMNode& node, CKTXMLElement* parent) {
+    CKTXMLElement* element = copyNode(node, parent);
+    for (const DOMNode* at = &node;;) {
+        if (element != nullptr && at->getFirstChild() != nullptr) {
+            parent = element;
+            at = at->getFirstChild();
+        } else {
+            while (at != &node && at->getNextSibling() == nullptr) {
+                at = at->getParentNode();
+                parent = parent->getParent();
+            }
+            if (at == &node) {
+                return;
+            }
+            at = at->getNextSibling();
+        }
+        element = copyNode(*at, parent);
+    }
+}
+
+/// Copies one node without what is below it. Returns the element that its children belong to, null
+/// for a node whose subtree is left out.
+CKTXMLElement* CKTDOMParser::copyNode(const DOMNode& node, CKTXMLElement* parent) {
+    switch (node.getNodeType()) {
+        case DOMNode::ELEMENT_NODE:
+            return copyElement(node, parent);
+        case DOMNode::TEXT_NODE:
+            if (parent != nullptr) {
+                parent->setValue(NarrowText(node.getNodeValue()));
+            }
+            return nullptr;
+        case DOMNode::DOCUMENT_NODE:
+            return parent;
+        case DOMNode::CDATA_SECTION_NODE:
+        case DOMNode::ENTITY_REFERENCE_NODE:
+        case DOMNode::ENTITY_NODE:
+        case DOMNode::PROCESSING_INSTRUCTION_NODE:
+        case DOMNode::COMMENT_NODE:
+        case DOMNode::DOCUMENT_TYPE_NODE:
+            return nullptr;
+        default:
+            WriteLine(std::cerr, {"Unrecognized node type = ", std::to_string(node.getNodeType())});
+            return nullptr;
+    }
+}
+
+CKTXMLElement* CKTDOMParser::copyElement(const DOMNode& node, CKTXMLElement* parent) {
+    auto element = std::make_unique<CKTXMLElement>(NarrowText(node.getNodeName()));
+    element->setParent(parent);
+    element->setParser(this);
+    const xercesc::DOMNamedNodeMap* attributes = node.getAttributes();
+    for (XMLSize_t i = 0; i < attributes->getLength(); ++i) {
+        const DOMNode* source = attributes->item(i);
+        auto attribute = std::make_unique<CKTXMLAttribute>(NarrowText(source->getNodeName()),
+                                                           NarrowText(source->getNodeValue()));
+        attribute->setParent(element.get());
+        element->addAttribute(std::move(attribute));
+    }
+    return parent->addChildElement(std::move(element));
+}
+
+void CKTDOMParser::ReleaseDocument() {
+    m_pDOMParser->resetDocumentPool();
+    m_pDOMParser->resetCachedGrammarPool();
+    m_bParsed = false;
+}
+
+int CKTDOMParser::getErrorCount() const {
+    return m_pErrorHandler == nullptr ? 1 : m_nErrorCount;
+}
+
+int CKTDOMParser::getWarningCount() const {
+    return m_pErrorHandler == nullptr ? 1 : m_nWarningCount;
+}
+
+void CKTDOMParser::setVerboseError(bool verbose) {
+    if (m_pErrorHandler != nullptr) {
+        m_pErrorHandler->setVerboseError(verbose);
+    }
+}
+
+void CKTDOMParser::DisplayErrorSummary() {
+    if (m_pErrorHandler != nullptr) {
+        m_pErrorHandler->DisplayErrorMsgSummary();
+    }
+}
+
+void CKTDOMParser::ResetErrors() {
+    if (m_pErrorHandler != nullptr) {
+        m_pErrorHandler->resetErrors();
+    }
+}
