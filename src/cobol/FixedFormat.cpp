@@ -1,0 +1,126 @@
+// The layout of one entry in fixed format: text in columns 8 to 72, a continued word or literal
+// marked by a hyphen in column 7.
+
+#include <algorithm>
+#include <iostream>
+#include <string_view>
+
+#include "cobol/KTCOBOLRecordItem.h"
+
+namespace {
+
+constexpr int kAreaA = 7;          // characters before area A
+constexpr int kContinuation = 10;  // characters before the text of a further line
+constexpr int kLastColumn = 72;
+constexpr int kFreshEntry = 73;  // as a column: nothing of the entry is written yet
+constexpr int kMaxIndent = 48;
+constexpr std::size_t kMaxBlanks = 254;
+constexpr std::string_view kBlanks = " \t";
+constexpr std::string_view kCommentStart = "      *   ";
+constexpr std::string_view kContinuationStart = "      -   ";
+
+void WriteText(std::ostream& out, std::string_view text) {
+    out.write(text.data(), static_cast<std::streamsize>(text.size()));
+}
+
+void WriteSpaces(std::ostream& out, int count) {
+    static const std::string spaces(kMaxBlanks, ' ');
+    WriteText(out, std::string_view(spaces).substr(0, static_cast<std::size_t>(count)));
+}
+
+/// Says whether the literal that `token` begins with is still open after its first `written`
+/// characters. A doubled quotation mark is one character of the literal.
+bool IsLiteralOpen(std::string_view token, std::size_t written) {
+    if (!token.starts_with('"')) {
+        return false;
+    }
+    for (std::size_t i = 1; i < written; ++i) {
+        if (token[i] != '"') {
+            continue;
+        }
+        if (i + 1 >= token.size() || token[i + 1] != '"') {
+            return false;
+        }
+        ++i;
+    }
+    return true;
+}
+
+/// Starts the line on which a token that does not fit goes on, or begins. Returns its column.
+int StartLine(std::ostream& out, std::string_view token, std::size_t written, int indent,
+              bool comment) {
+    out.put('\n');
+    if (comment) {
+        WriteText(out, kCommentStart);
+    } else if (written > 0) {
+        WriteText(out, kContinuationStart);
+    } else {
+        WriteSpaces(out, kContinuation);
+    }
+    WriteSpaces(out, indent);
+    if (written > 0 && IsLiteralOpen(token, written)) {
+        out.put('"');
+        return indent + kContinuation + 1;
+    }
+    return indent + kContinuation;
+}
+
+void WriteToken(std::string_view token, std::ostream& out, int indent, int& column, bool comment) {
+    if (out.fail()) {
+        return;
+    }
+    indent = std::clamp(indent, 0, kMaxIndent);
+    const bool fits = static_cast<int>(token.size()) + column < kFreshEntry;
+    std::size_t written = 0;
+    while (written < token.size() && token[written] != '\n' && token[written] != '\r') {
+        if (!fits && column >= kFreshEntry) {
+            column = indent - (comment ? 1 : 0) + kAreaA;
+            WriteSpaces(out, column);
+        } else if (!fits) {
+            column = StartLine(out, token, written, indent, comment);
+        }
+        const auto room = static_cast<std::size_t>(kLastColumn - column);
+        const std::string_view rest = token.substr(written);
+        WriteText(out, rest.substr(0, room));
+        if (rest.size() <= room) {
+            column += static_cast<int>(rest.size());
+            return;
+        }
+        written += room;
+    }
+}
+
+}  // namespace
+
+void CKTCOBOLRecordItem::OutputFixedFormatCOBOL(const char* line, std::ostream& out) {
+    std::ostream& target = out.fail() ? std::cout : out;
+    const std::string_view text(line);
+    std::size_t start = text.find_first_not_of(kBlanks);
+    if (start != std::string_view::npos) {
+        const int indent =
+            static_cast<int>(std::min<std::size_t>(start, kAreaA + kMaxIndent)) - kAreaA;
+        std::size_t end = std::min(text.find_first_of(kBlanks, start), text.size());
+        const bool comment = text.substr(start, end - start) == "*";
+        int column = kFreshEntry;
+        for (;;) {
+            WriteToken(text.substr(start, end - start), target, indent, column, comment);
+            start = text.find_first_not_of(kBlanks, end);
+            if (start == std::string_view::npos) {
+                break;
+            }
+            for (std::size_t blanks = start - end; blanks > 0;) {
+                const std::size_t piece = std::min(blanks, kMaxBlanks);
+                WriteToken(std::string(piece, ' '), target, indent, column, comment);
+                blanks -= piece;
+            }
+            end = std::min(text.find_first_of(kBlanks, start), text.size());
+        }
+    }
+    target.put('\n');
+}
+
+void CKTCOBOLRecordItem::OutputCOBOLToken(const char* token, std::ostream& out, int indent,
+                                          int& column, bool comment) {
+    WriteToken(token, out, indent, column, comment);
+    out.flush();
+}
