@@ -1,0 +1,69 @@
+#include "schema/DeclarationIndex.h"
+
+#include <set>
+#include <utility>
+
+namespace {
+
+template <typename Add>
+void ForEachDeclaration(const CKTXMLSchemaDoc& doc, Add add) {
+    for (int list = COMPLEX_TYPES; list <= REDEFINED; ++list) {
+        for (CKTXMLElement* e : doc.getList(static_cast<DeclarationList>(list))) {
+            if (const CKTXMLAttribute* name = e->getAttribute("name")) {
+                add(static_cast<std::size_t>(list), std::string_view(name->getValue()), e);
+            }
+        }
+    }
+}
+
+}  // namespace
+
+std::string_view NamespaceOf(const CKTXMLElement* e, std::string_view defaultNamespace) {
+    for (; e != nullptr; e = e->getParent()) {
+        if (const CKTXMLAttribute* attribute = e->getAttribute("targetNamespace")) {
+            return attribute->getValue();
+        }
+    }
+    return defaultNamespace;
+}
+
+CKTDeclarationIndex::CKTDeclarationIndex(const CKTXMLSchemaDoc& main,
+                                         std::string_view defaultNamespace)
+    : m_Main(main) {
+    std::set<std::pair<std::string, const CKTXMLSchemaDoc*>> seen;
+    for (const CKTXMLNamespaceSchemaPair* pair : main.getNamespaceSchemaPairs()) {
+        if (seen.emplace(pair->getNamespaceURI(), pair->getSchemaDoc()).second) {
+            AddAll(m_NamespaceMaps[pair->getNamespaceURI()], *pair->getSchemaDoc());
+        }
+    }
+    AddAll(m_MainMaps, main);
+    ForEachDeclaration(main, [&](std::size_t list, std::string_view name, CKTXMLElement* e) {
+        const std::string_view uri = NamespaceOf(e, defaultNamespace);
+        m_NamespaceMaps[std::string(uri)].at(list).try_emplace(name, e);
+    });
+}
+
+void CKTDeclarationIndex::AddAll(ListMaps& maps, const CKTXMLSchemaDoc& doc) {
+    ForEachDeclaration(doc, [&](std::size_t list, std::string_view name, CKTXMLElement* e) {
+        maps.at(list).try_emplace(name, e);
+    });
+}
+
+CKTXMLElement* CKTDeclarationIndex::Find(std::string_view uri, std::string_view name,
+                                         DeclarationList list) const {
+    const auto place = static_cast<std::size_t>(list);
+    if (!uri.empty()) {
+        const auto maps = m_NamespaceMaps.find(std::string(uri));
+        if (maps != m_NamespaceMaps.end()) {
+            const auto found = maps->second.at(place).find(name);
+            if (found != maps->second.at(place).end()) {
+                return found->second;
+            }
+        }
+        if (uri != m_Main.getTargetNamespace()) {
+            return nullptr;
+        }
+    }
+    const auto found = m_MainMaps.at(place).find(name);
+    return found == m_MainMaps.at(place).end() ? nullptr : found->second;
+}

@@ -1,0 +1,179 @@
+// Derivation by restriction and extension.
+
+#include <algorithm>
+#include <iostream>
+
+#include "schema/KTCOBOLGenerator.h"
+#include "support/Console.h"
+
+namespace {
+
+void SetContentKind(CKTCOBOLRecordItem* item, const CKTXMLElement* derivation) {
+    if (!derivation->isParent()) {
+        return;
+    }
+    const GeneratorKind parent = GeneratorKindOf(derivation->getParent()->getName());
+    if (parent == GeneratorKind::SimpleContent) {
+        item->m_nContentKind = CKTCOBOLRecordItem::SIMPLE_CONTENT;
+    } else if (parent == GeneratorKind::ComplexContent) {
+        item->m_nContentKind = CKTCOBOLRecordItem::COMPLEX_CONTENT;
+    }
+}
+
+CKTXMLElement* FindChild(const CKTXMLElement* e, GeneratorKind kind) {
+    for (CKTXMLElement* child = e->getFirstChildElem(); child != nullptr;
+         child = child->getNextSibling()) {
+        if (GeneratorKindOf(child->getName()) == kind) {
+            return child;
+        }
+    }
+    return nullptr;
+}
+
+/// The restriction or extension that says what a type's simple value is; null when the value is a
+/// list, a union or elements.
+const CKTXMLElement* FindValueDerivation(const CKTXMLElement* type) {
+    const CKTXMLElement* holder = GeneratorKindOf(type->getName()) == GeneratorKind::ComplexType
+                                      ? FindChild(type, GeneratorKind::SimpleContent)
+                                      : type;
+    if (holder == nullptr) {
+        return nullptr;
+    }
+    const CKTXMLElement* restriction = FindChild(holder, GeneratorKind::Restriction);
+    return restriction != nullptr ? restriction : FindChild(holder, GeneratorKind::Extension);
+}
+
+void ReportMissingBase(const std::string& base) {
+    WriteLine(std::cerr, {"Error : Cannot find referenced element ", base,
+                          ".  Element will not be converted to COBOL record item."});
+}
+
+}  // namespace
+
+CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementRestriction(const CKTXMLElement* restriction,
+                                                                 unsigned level, unsigned indent,
+                                                                 Item** current) {
+    Item* item = *current;
+    SetContentKind(item, restriction);
+    std::string base;
+    if (!findAttrByName(restriction, "base", base)) {
+        RestrictOwnContent(restriction, level, indent, current);
+    } else if (ConvertBuiltIn(item, restriction, base)) {
+        ProcessElementFacets(item, restriction);
+    } else if (IsOpenType(restriction, base, true)) {
+        WalkChildren(restriction, level, indent, current);
+    } else if (CKTXMLElement* type = FindBaseType(restriction, base)) {
+        RestrictNamedType(restriction, type, base, level, indent, current);
+    } else {
+        ReportMissingBase(base);
+        WalkChildren(restriction, level, indent, current);
+    }
+    return *current;
+}
+
+void CKTCOBOLGenerator::RestrictNamedType(const CKTXMLElement* restriction, CKTXMLElement* base,
+                                          const std::string& name, unsigned level, unsigned indent,
+                                          Item** current) {
+    Item* item = *current;
+    const CKTXMLElement* first = restriction->getFirstChildElem();
+    const bool complexBase = getElementType(base) == GeneratorKind::ComplexType;
+    const bool ownContent =
+        first != nullptr && (complexBase || getElementType(first) == GeneratorKind::SimpleType);
+    if (ownContent) {
+        if (complexBase && item->m_nContentKind == Item::SIMPLE_CONTENT) {
+            TakeBaseValue(item, base);
+        }
+        RestrictOwnContent(restriction, level, indent, current);
+        return;
+    }
+    WalkBaseType(base, name, level, indent, current);
+    if (*current == item) {
+        ProcessElementFacets(item, restriction);
+    }
+}
+
+/// Takes what a restriction holds itself: an anonymous type that its facets narrow comes first,
+/// then the facets, then the rest.
+void CKTCOBOLGenerator::RestrictOwnContent(const CKTXMLElement* restriction, unsigned level,
+                                           unsigned indent, Item** current) {
+    Item* item = *current;
+    CKTXMLElement* anonymous = FindChild(restriction, GeneratorKind::SimpleType);
+    if (anonymous != nullptr) {
+        getCOBOLFromSchema(anonymous, level, indent, current);
+    }
+    if (*current == item) {
+        ProcessElementFacets(item, restriction);
+    }
+    for (CKTXMLElement* child = restriction->getFirstChildElem();
+         child != nullptr && *current == item && m_Excess == Excess::None;
+         child = child->getNextSibling()) {
+        if (child != anonymous) {
+            getCOBOLFromSchema(child, level, indent, current);
+        }
+    }
+}
+
+CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementExtension(const CKTXMLElement* extension,
+                                                               unsigned level, unsigned indent,
+                                                               Item** current) {
+    Item* item = *current;
+    SetContentKind(item, extension);
+    std::string base;
+    if (!findAttrByName(extension, "base", base)) {
+        return item;
+    }
+    if (!ConvertBuiltIn(item, extension, base) && !IsOpenType(extension, base, false)) {
+        CKTXMLElement* type = FindBaseType(extension, base);
+        if (type == nullptr) {
+            ReportMissingBase(base);
+            return nullptr;
+        }
+        WalkBaseType(type, base, level, indent, current);
+    }
+    if (*current == item) {
+        WalkChildren(extension, level, indent, current);
+    }
+    return *current;
+}
+
+void CKTCOBOLGenerator::WalkBaseType(CKTXMLElement* type, const std::string& name, unsigned level,
+                                     unsigned indent, Item** current) {
+    const CKTActiveGuard active(m_ActiveTypes, ActiveType(*current, type));
+    if (active.IsFirst()) {
+        getCOBOLFromSchema(type, level, indent, current);
+    } else {
+        WriteLine(std::cerr,
+                  {"Error : Cannot convert recursive reference of ", name, " to COBOL record"});
+    }
+}
+
+/// Gives `item` the built-in type at the end of the base chain of `type` and the facets on the way,
+/// without the attributes and condition names of the base.
+void CKTCOBOLGenerator::TakeBaseValue(Item* item, CKTXMLElement* type) {
+    std::vector<const CKTXMLElement*> steps;
+    bool converted = false;
+    while (type != nullptr && !converted) {
+        const CKTXMLElement* step = FindValueDerivation(type);
+        if (step == nullptr) {
+            return;
+        }
+        if (m_nNesting + steps.size() >= kMaxNesting) {
+            m_Excess = Excess::TooComplex;
+            return;
+        }
+        steps.push_back(step);
+        type = getElementType(step) == GeneratorKind::Restriction
+                   ? FindChild(step, GeneratorKind::SimpleType)
+                   : nullptr;
+        std::string base;
+        if (type == nullptr && findAttrByName(step, "base", base)) {
+            converted = ConvertBuiltIn(item, step, base);
+            type = FindBaseType(step, base);
+        }
+    }
+    for (auto step = steps.rbegin(); converted && step != steps.rend(); ++step) {
+        if (getElementType(*step) == GeneratorKind::Restriction) {
+            ApplyFacets(item, *step, false);
+        }
+    }
+}

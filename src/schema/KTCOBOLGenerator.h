@@ -1,0 +1,229 @@
+#ifndef DORVEX_SCHEMA_KTCOBOLGENERATOR_H
+#define DORVEX_SCHEMA_KTCOBOLGENERATOR_H
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+#include <utility>
+#include <vector>
+
+#include "cobol/KTCOBOLRecordItem.h"
+#include "schema/ActiveGuard.h"
+#include "schema/DeclarationIndex.h"
+#include "schema/KTXMLSchemaDoc.h"
+#include "schema/SchemaVocabulary.h"
+
+/// Turns a schema document into one COBOL record for each head element. The walk follows the schema
+/// from a head element and hands each construct to its handler; handlers fill the current record
+/// item or make new items below it. A handler answers the item that it worked on, or null when it
+/// yielded none; every message goes to standard error and none stops the run.
+class CKTCOBOLGenerator {
+public:
+    CKTCOBOLGenerator() = default;
+    /// `document` is borrowed and outlives the generator.
+    explicit CKTCOBOLGenerator(CKTXMLSchemaDoc* document) : m_pDocument(document) {}
+    virtual ~CKTCOBOLGenerator() = default;
+    CKTCOBOLGenerator(const CKTCOBOLGenerator&) = delete;
+    CKTCOBOLGenerator& operator=(const CKTCOBOLGenerator&) = delete;
+
+    /// Converts every head element and writes the records to `outputName`, truncating it; to the
+    /// console when the name is empty (after a notice) or the file cannot be opened. The other
+    /// arguments go to the copybook writer: data-name prefix, count-in clauses, unique names.
+    /// Returns whether the text went to the file. A file that cannot be written completely is an
+    /// error line.
+    bool GenerateFile(const std::string& outputName, const std::string& writerText,
+                      bool writerFlag1, bool writerFlag2);
+
+    /// The walk. `current` points at the item being filled (null at the top); it is set to the
+    /// item's parent when the item turns out empty and is removed. `level` and `indent` are those
+    /// of a record's first item. Returns the item that `e` filled or made, null for none.
+    CKTCOBOLRecordItem* getCOBOLFromSchema(CKTXMLElement* e, unsigned level, unsigned indent,
+                                           CKTCOBOLRecordItem** current);
+
+    /// Checks the `schema` element; false after an error line when it cannot be converted.
+    static bool ProcessSchemaElement(const CKTXMLElement* schema, bool& processChildren);
+
+    /// Appends to `heads` the global elements that are referenced nowhere. Returns the head when
+    /// there is exactly one; otherwise null after a message.
+    CKTXMLElement* getSchemaHeadElement(std::vector<CKTXMLElement*>& heads);
+
+    /// Gives `item` the picture or usage of the built-in type `typeName`, which `context` names.
+    /// False for a type that is not built in, and for the types that are not plain text or counts.
+    bool convertXMLtoCOBOL(CKTCOBOLRecordItem* item, const CKTXMLElement* context,
+                           std::string typeName) const;
+
+    /// Says whether `typeName`, as written at `context`, is a built-in type with a COBOL form; if
+    /// its namespace is that of XML Schema, `typeName` becomes the local part.
+    bool isSupportedDefaultSchemaType(const CKTXMLElement* context, std::string& typeName) const;
+
+    /// Resolve namespaces: of an element, of a qualified name at an element or at the main schema,
+    /// and of a declaration attribute looked for upwards from an element. False when nothing is
+    /// bound.
+    bool getElementNamespace(const CKTXMLElement* e, std::string& uri) const;
+    bool getTypeNamespace(const CKTXMLElement* context, std::string_view qname,
+                          std::string& uri) const;
+    bool getTypeNamespace(std::string_view qname, std::string& uri) const;
+    bool getNamespaceURI(const CKTXMLElement* e, std::string_view attrName, std::string& uri) const;
+
+    /// Finds the declaration that `qname` means at `context` in the chosen list; null for none.
+    /// Within a redefinition its own name means the declaration that was replaced.
+    CKTXMLElement* findElementByName(const CKTXMLElement* context, std::string_view qname,
+                                     DeclarationList list);
+
+    /// The first element of `list` whose `name` is the local part of `name`; null for none.
+    static CKTXMLElement* findElementByName(const std::vector<CKTXMLElement*>& list,
+                                            std::string_view name);
+
+    static bool findAttrByName(const CKTXMLElement* e, std::string_view name, std::string& value) {
+        return ::findAttrByName(e, name, &value);
+    }
+    static GeneratorKind getElementType(const CKTXMLElement* e) {
+        return GeneratorKindOf(e->getName());
+    }
+    static FacetKind getFacetType(const CKTXMLElement* e) {
+        return e == nullptr ? FacetKind::None : FacetKindOf(e->getName());
+    }
+
+    /// Says whether `e` is an `element` whose `ref` has the local name `name` and the namespace of
+    /// `e`.
+    [[nodiscard]] bool compareElemByRefs(const CKTXMLElement* e, std::string_view name) const;
+
+    /// Applies the facets below `restriction` (null: the item's type definition) to `item`; facets
+    /// that COBOL cannot express are warnings.
+    void ProcessElementFacets(CKTCOBOLRecordItem* item, const CKTXMLElement* restriction);
+
+    /// Free-form writers on standard output; nothing is written for an empty name or type.
+    static void writeIndent(unsigned n);
+    static void writeLevelNumber(unsigned level);
+    static void writeRecordName(const std::string& name);
+    static void writeCOBOLType(const std::string& type);
+    static void writeIdentifiedBy(const std::string& xmlName);
+    static void writeIsAttribute(bool flag);
+    static void writeRecordItem(const std::string& name, const std::string& type,
+                                const std::string& xmlName, unsigned level, unsigned indent,
+                                bool isAttribute);
+
+    /// Prints `element` with its attributes and, one blank deeper each, what is below it.
+    static void dumpElement(const CKTXMLElement* element, const std::string& prefix);
+
+private:
+    using Item = CKTCOBOLRecordItem;
+    struct DeclarationTraits;
+    struct UnionMember;
+    class CKTConditionList;
+    class CKTNestingGuard;
+
+    /// A type definition together with the item that it is walked into.
+    using ActiveType = std::pair<const CKTCOBOLRecordItem*, const CKTXMLElement*>;
+    struct ActiveTypeHash {
+        std::size_t operator()(const ActiveType& active) const {
+            const std::hash<const void*> hash;
+            return hash(active.first) * 31 + hash(active.second);
+        }
+    };
+
+    /// Why the walk of a record was given up.
+    enum class Excess { None, TooManyItems, TooComplex };
+
+    // The walk (KTCOBOLGenerator.cpp) and the items that it makes (Items.cpp)
+    void ConvertSchema(CKTXMLElement* schema, unsigned level, unsigned indent);
+    bool ConvertHead(CKTXMLElement* head, unsigned level, unsigned indent);
+    Item* Dispatch(CKTXMLElement* e, unsigned level, unsigned indent, Item** current);
+    Item* ProcessTypeDefinition(CKTXMLElement* e, unsigned level, unsigned indent, Item** current);
+    void WalkChildren(const CKTXMLElement* e, unsigned level, unsigned indent, Item** current);
+    void PruneEmptyItem(const CKTXMLElement* e, Item** current);
+    void RemoveItem(const Item* item);
+    bool CountItem();
+    Item* MakeItem(Item* parent, std::string_view shownName, unsigned level, unsigned indent);
+    Item* MakeGeneratedItem(Item* parent, const std::string& dataName);
+    Item* MakeConditionItem(Item* parent);
+    void MoveValue(Item* item, bool toFront);
+
+    // Head elements (HeadElements.cpp)
+    [[nodiscard]] std::vector<const CKTXMLSchemaDoc*> ImportedDocuments() const;
+    void CollectReferencedNames(CKTXMLElement* schema,
+                                std::unordered_set<std::string_view>& names) const;
+
+    // Type resolution (TypeResolution.cpp)
+    static bool IsSchemaNamespace(std::string_view uri);
+    bool IsOpenType(const CKTXMLElement* context, std::string_view qname, bool orListType) const;
+    CKTXMLElement* FindType(const CKTXMLElement* context, std::string_view qname);
+    CKTXMLElement* FindBase(const CKTXMLElement* context, std::string_view qname,
+                            DeclarationList list);
+    CKTXMLElement* FindBaseType(const CKTXMLElement* context, std::string_view qname);
+    bool ConvertBuiltIn(Item* item, const CKTXMLElement* context,
+                        const std::string& typeName) const;
+
+    // Declarations (Declarations.cpp)
+    Item* ProcessElementElement(CKTXMLElement* element, unsigned level, unsigned indent,
+                                Item** current);
+    Item* ProcessAttributeElement(CKTXMLElement* element, unsigned level, unsigned indent,
+                                  Item** current);
+    Item* ProcessDeclaration(CKTXMLElement* element, const DeclarationTraits& traits,
+                             unsigned level, unsigned indent, Item** current);
+    void FillFromDeclaration(Item* item, const CKTXMLElement* element, bool reused) const;
+    bool FillContent(CKTXMLElement* element, const DeclarationTraits& traits, unsigned level,
+                     unsigned indent, Item** cursor);
+    bool FillFromReference(const CKTXMLElement* element, const std::string& ref,
+                           const DeclarationTraits& traits, unsigned level, unsigned indent,
+                           Item** cursor);
+    bool FillFromType(const CKTXMLElement* element, const std::string& type,
+                      const DeclarationTraits& traits, unsigned level, unsigned indent,
+                      Item** cursor);
+    bool isRecursivePattern(const Item* item);
+    bool elementHasSubGroup(const Item* item);
+
+    // Model groups (ModelGroups.cpp) and unions (Unions.cpp)
+    Item* ProcessModelGroup(CKTXMLElement* e, unsigned level, unsigned indent, Item** current);
+    Item* ProcessGroupMembers(const CKTXMLElement* e, unsigned level, unsigned indent,
+                              Item** current);
+    Item* MakeGroupItem(const CKTXMLElement* e, Item* parent);
+    bool WalkGroupReference(const CKTXMLElement* e, const std::string& ref, unsigned level,
+                            unsigned indent, Item** cursor);
+    Item* ProcessElementUnion(const CKTXMLElement* unionElement, unsigned level, unsigned indent,
+                              Item* current);
+    bool FindUnionMember(const CKTXMLElement* unionElement, UnionMember& member);
+    Item* MakeUnionItem(const CKTXMLElement* unionElement, const UnionMember& member,
+                        std::size_t number, unsigned level, unsigned indent, Item* current);
+
+    // Derivations (Derivations.cpp)
+    Item* ProcessElementRestriction(const CKTXMLElement* restriction, unsigned level,
+                                    unsigned indent, Item** current);
+    Item* ProcessElementExtension(const CKTXMLElement* extension, unsigned level, unsigned indent,
+                                  Item** current);
+    void RestrictNamedType(const CKTXMLElement* restriction, CKTXMLElement* base,
+                           const std::string& name, unsigned level, unsigned indent,
+                           Item** current);
+    void RestrictOwnContent(const CKTXMLElement* restriction, unsigned level, unsigned indent,
+                            Item** current);
+    void WalkBaseType(CKTXMLElement* type, const std::string& name, unsigned level, unsigned indent,
+                      Item** current);
+    void TakeBaseValue(Item* item, CKTXMLElement* type);
+
+    // Facets (Facets.cpp)
+    void ApplyFacets(Item* item, const CKTXMLElement* restriction, bool withConditions);
+    static void ApplyFacet(Item* item, const CKTXMLElement* restriction, const CKTXMLElement* facet,
+                           const std::string* value);
+
+    static constexpr unsigned kMaxNesting = 10'000;
+
+    CKTXMLSchemaDoc* m_pDocument = nullptr;
+    std::string m_sWriterText;
+    bool m_bWriterFlag1 = false;
+    bool m_bWriterFlag2 = false;
+
+    std::unique_ptr<CKTDeclarationIndex> m_pIndex;
+    std::unordered_set<std::string> m_SubstitutionHeads;
+    bool m_bSubstitutionHeadsKnown = false;
+    std::unordered_set<const CKTXMLElement*> m_ActiveGroups;
+    std::unordered_set<ActiveType, ActiveTypeHash> m_ActiveTypes;
+    std::unique_ptr<Item> m_pRecord;
+    Excess m_Excess = Excess::None;
+    std::uint64_t m_nItemsMade = 0;
+    std::uint64_t m_nElementsVisited = 0;
+    unsigned m_nNesting = 0;
+};
+
+#endif
