@@ -1,0 +1,231 @@
+#include "driver/CommandLine.h"
+
+#include <algorithm>
+#include <array>
+#include <climits>
+#include <cstring>
+#include <iostream>
+#include <string_view>
+
+#include "support/Console.h"
+#include "support/Text.h"
+
+namespace {
+
+constexpr std::string_view kUsageText =
+    R"(Usage :
+dorvex [options] <filename>
+
+dorvex [-c -x -m -p -d -noprompt -nocountin] <COBOL filename>
+dorvex [-c -p -noprompt -nocountin -unique] <XML Schema filename>
+dorvex [-v] (<XML filename> | <XML Schema filename>)
+
+Options:
+
+   -c|-C <filename>     Specify a filename for the COBOL file being
+                        created.
+
+   -x|-X <filename>     Specify a <filename> for the XML schema file
+                        being created.  Note: This option is for the
+                        processing of COBOL programs/copyfiles only.
+
+   -m|-M <filename>     Specify a <filename> for the mapping file
+                        to be used or created.  Note: This option is
+                        for the processing of COBOL programs/copyfiles
+                        only.
+
+   -p|-P <prefix>       Specify a prefix to append to any generated
+                        data names.
+
+   -d|-D <filename>     Specify a compiler directive file <filename>
+                        to use when preprocessing a COBOL file.
+
+   -v|-V <filename>     Perform XML schema or instance document
+                        validation on <filename>.
+
+   -noprompt |          Prevent user prompt for the overwrite of existing
+   -NOPROMPT            files.
+
+   -nocountin |         Prevent generation of "count in" clauses for
+   -NOCOUNTIN           generated data items.  This option overrides any
+                        <cobol-count-in> mapping file values.
+
+   -unique |            Ensure that all COBOL data names are unique within the
+   -UNIQUE              generated COBOL data structure.
+
+)";
+
+constexpr int kExtensionLength = 4;
+
+/// One option: recognised by its name as a case-insensitive prefix; a value option fills `value`, a
+/// switch sets `flag` to `state`, the others have neither.
+struct Option {
+    const char* name;
+    std::string Settings::*value;
+    bool Settings::*flag;
+    bool state;
+};
+
+/// In the order of the tests: a short option matches everything that begins with it.
+constexpr std::array kOptions = {
+    Option{"-C", &Settings::copybookName, nullptr, false},
+    Option{"-X", &Settings::schemaName, nullptr, false},
+    Option{"-M", &Settings::mappingName, nullptr, false},
+    Option{"-P", &Settings::prefix, nullptr, false},
+    Option{"-D", &Settings::directiveFile, nullptr, false},
+    Option{"-V", &Settings::firstName, &Settings::validate, true},
+    Option{"-Q", nullptr, nullptr, false},
+    Option{"-LOG", nullptr, nullptr, false},
+    Option{"-NOPROMPT", nullptr, &Settings::promptForOverwrite, false},
+    Option{"-NOCOUNTIN", nullptr, &Settings::countInClauses, false},
+    Option{"-UNIQUE", nullptr, &Settings::uniqueDataNames, true},
+};
+
+bool StartsWith(const char* argument, const char* start) {
+    return my_strnicmp(argument, start, static_cast<int>(std::strlen(start))) == 0;
+}
+
+bool HasExtension(const std::string& name, const char* extension) {
+    return my_strnicmp(my_strrchr(name.c_str(), "."), extension, kExtensionLength) == 0;
+}
+
+int EndWithStatus(int status) {
+    RestoreStreams();
+    return status;
+}
+
+void ReportFileType(const std::string& name) {
+    WriteLine(std::cout, {"Error : Unrecognized file type \"", name, "\""});
+}
+
+/// Marks the kind of source that a file argument gives, unless the other kind was given before.
+void MarkSource(const std::string& name, bool otherGiven, bool& given) {
+    if (otherGiven) {
+        WriteLine(std::cout, {"Error : Invalid command line option, ignoring \"", name, "\""});
+    } else {
+        given = true;
+    }
+}
+
+std::optional<int> TakeFileArgument(const std::string& name, Settings& settings) {
+    if (!settings.firstName.empty()) {
+        WriteLine(std::cout, {"Warning : Source filename \"", settings.firstName,
+                              "\" already specified.  Ignoring \"", name, "\""});
+        return {};
+    }
+    settings.firstName = name;
+    const bool document = HasExtension(name, ".XML");
+    if (HasExtension(name, ".XSD")) {
+        MarkSource(name, settings.cobolSourceGiven, settings.schemaSourceGiven);
+        settings.schemaName = name;
+    } else if (document || HasExtension(name, ".CBL") || HasExtension(name, ".CPY")) {
+        MarkSource(name, settings.schemaSourceGiven, settings.cobolSourceGiven);
+        settings.sourceName = name;
+        if (document) {
+            settings.instanceName = name;
+        }
+    } else {
+        ReportFileType(name);
+        Usage();
+        return EndWithStatus(1);
+    }
+    return {};
+}
+
+/// Judges the document named by -V. The names that other arguments gave no longer count: one
+/// document is validated.
+std::optional<int> TakeValidationName(Settings& settings) {
+    settings.schemaName.clear();
+    settings.instanceName.clear();
+    if (HasExtension(settings.firstName, ".XML")) {
+        settings.instanceName = settings.firstName;
+    } else if (HasExtension(settings.firstName, ".XSD")) {
+        settings.schemaName = settings.firstName;
+    } else {
+        ReportFileType(settings.firstName);
+        return EndWithStatus(1);
+    }
+    return {};
+}
+
+}  // namespace
+
+void Usage() {
+    if (!IsQuiet()) {
+        std::cout << kUsageText.data();
+    }
+}
+
+void ScanForLog(int argc, char** argv) {
+    static constexpr std::array kValueOptions = {"-C", "-X", "-M", "-D"};
+    for (int i = 1; i < argc; ++i) {
+        const bool isValue =
+            i > 1 && std::any_of(kValueOptions.begin(), kValueOptions.end(),
+                                 [&](const char* o) { return my_stricmp(argv[i - 1], o) == 0; });
+        if (StartsWith(argv[i], "-LOG") && !isValue) {
+            OpenLog();
+            return;
+        }
+    }
+}
+
+std::optional<int> ReadCommandLine(int argc, char** argv, Settings& settings) {
+    for (int i = 1; i < argc; ++i) {
+        const char* argument = argv[i];
+        if (*argument != '-') {
+            if (const std::optional<int> status = TakeFileArgument(argument, settings)) {
+                return status;
+            }
+            continue;
+        }
+        if (my_stricmp(argument, "-?") == 0 || my_stricmp(argument, "-HELP") == 0) {
+            Usage();
+            return EndWithStatus(0);
+        }
+        const auto option = std::find_if(kOptions.begin(), kOptions.end(), [&](const Option& o) {
+            return StartsWith(argument, o.name);
+        });
+        if (option == kOptions.end()) {
+            WriteLine(std::cout, {"Error : Invalid option \"", argument, "\""});
+            return EndWithStatus(1);
+        }
+        if (option->value != nullptr) {
+            i = ProcessCmdLineNameValue(argc, argv, i, option->name, settings.*(option->value));
+        }
+        if (option->flag != nullptr) {
+            settings.*(option->flag) = option->state;
+        }
+        if (settings.validate) {
+            return TakeValidationName(settings);
+        }
+        if (StartsWith(option->name, "-Q")) {
+            SilenceOutput();
+        }
+    }
+    if (settings.firstName.empty()) {
+        WriteLine(std::cout, {"Error : Source filename not specified"});
+        return EndWithStatus(1);
+    }
+    return {};
+}
+
+int ProcessCmdLineNameValue(int argc, char** argv, int index, const char* option,
+                            std::string& value) {
+    const std::wstring argument = my_mbstowcs(argv[index]);
+    const std::wstring name = my_mbstowcs(option);
+    if (argument.size() > name.size()) {
+        value = my_wcstombs(argument.c_str() + name.size());
+        return index;
+    }
+    // An argument that cannot be converted has been reported and has no length to go by.
+    if (argument.size() < name.size()) {
+        return index;
+    }
+    if (index + 1 < argc) {
+        value = argv[index + 1];
+    } else {
+        WriteLine(std::cout,
+                  {"Error : Ignoring incomplete command-line option \"", argv[index], "\""});
+    }
+    return index + 1;
+}

@@ -1,0 +1,70 @@
+#include <iostream>
+
+#include "driver/Runs.h"
+#include "schema/KTCOBOLGenerator.h"
+#include "schema/KTXMLSchemaDoc.h"
+#include "schema/SchemaStore.h"
+#include "support/Console.h"
+#include "support/Files.h"
+#include "support/Text.h"
+#include "xml/KTDOMParser.h"
+#include "xml/Paths.h"
+
+namespace {
+
+/// The schema's name with its extension replaced.
+std::string DefaultCopybookName(const std::string& schemaName) {
+    const std::size_t extension = std::string_view(my_strrchr(schemaName.c_str(), ".")).size();
+    return schemaName.substr(0, schemaName.size() - extension) + ".cpy";
+}
+
+int StopWithoutNames(const Settings& settings) {
+    WriteLine(std::cout, {"Error : Failed to specify XML Schema filename"});
+    if (settings.copybookName.empty()) {
+        WriteLine(std::cout, {"Error : Failed to specify COBOL Copybook filename"});
+    }
+    RestoreStreams();
+    return 1;
+}
+
+void WriteCopybook(CKTDOMParser& parser, const Settings& settings, const std::string& schemaPath,
+                   const std::string& copybookName) {
+    const std::unique_ptr<CKTXMLElement> root = parser.getXMLDocument();
+    // The tree says all that is needed from here on.
+    parser.ReleaseDocument();
+    CKTSchemaStore store;
+    CKTXMLSchemaDoc document(root.get(), nullptr, schemaPath, store);
+    CKTCOBOLGenerator generator(&document);
+    const bool prompt = settings.promptForOverwrite;
+    if (FileExists(copybookName, prompt) && prompt) {
+        return;
+    }
+    generator.GenerateFile(copybookName, settings.prefix, settings.countInClauses,
+                           settings.uniqueDataNames);
+    parser.DisplayErrorSummary();
+}
+
+}  // namespace
+
+int RunSchemaToCobol(const Settings& settings) {
+    CKTDOMParser parser;
+    const std::string& schemaName = settings.schemaName;
+    if (schemaName.empty()) {
+        return StopWithoutNames(settings);
+    }
+    WriteLine(std::cout, {"Checking ", schemaName, " for errors"});
+    const std::string copybookName =
+        settings.copybookName.empty() ? DefaultCopybookName(schemaName) : settings.copybookName;
+    if (!parser.ParseFile(schemaName, CKTDOMParser::XML_SCHEMA, true)) {
+        std::cout << "\n";
+        parser.DisplayErrorSummary();
+        WriteLine(std::cout, {"Failed to create ", copybookName});
+        RestoreStreams();
+        return 1;
+    }
+    WriteLine(std::cout, {"No schema errors found, processing XML schema ", schemaName});
+    const std::string schemaPath = IsRelativePath(schemaName) ? FullPath(schemaName) : schemaName;
+    WriteCopybook(parser, settings, schemaPath, copybookName);
+    RestoreStreams();
+    return ExitStatus();
+}
