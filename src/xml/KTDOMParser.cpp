@@ -7,6 +7,7 @@
 #include <xercesc/dom/DOMNamedNodeMap.hpp>
 #include <xercesc/framework/LocalFileInputSource.hpp>
 #include <xercesc/framework/URLInputSource.hpp>
+#include <xercesc/util/BinInputStream.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLUni.hpp>
@@ -87,6 +88,15 @@ bool CKTDOMParser::ParseFile(const std::string& fileName, FILE_TYPE type, bool v
     if (m_pErrorHandler != nullptr) {
         m_pErrorHandler->setMuted(false);
     }
+    if (type == XML_SCHEMA) {
+        std::cout << "\n";
+        WriteLine(std::cout, {"Validating ", fileName, " for well-formedness."});
+    }
+    const std::unique_ptr<xercesc::InputSource> source = OpenSource(fileName);
+    if (source == nullptr) {
+        m_bParsed = false;
+        return false;
+    }
     switch (type) {
         case XML_DOCUMENT:
             m_pDOMParser->setDoSchema(validate);
@@ -94,10 +104,8 @@ bool CKTDOMParser::ParseFile(const std::string& fileName, FILE_TYPE type, bool v
                                                        : XercesDOMParser::Val_Never);
             break;
         case XML_SCHEMA:
-            std::cout << "\n";
-            WriteLine(std::cout, {"Validating ", fileName, " for well-formedness."});
             m_pDOMParser->setValidationScheme(XercesDOMParser::Val_Auto);
-            if (!LoadSchema(fileName)) {
+            if (!LoadSchema(*source)) {
                 return false;
             }
             break;
@@ -105,14 +113,33 @@ bool CKTDOMParser::ParseFile(const std::string& fileName, FILE_TYPE type, bool v
             m_pDOMParser->setValidationScheme(XercesDOMParser::Val_Always);
             break;
     }
-    return Parse(fileName);
+    return Parse(*source);
 }
 
-bool CKTDOMParser::LoadSchema(const std::string& fileName) {
+/// Makes the input source of a file. One that opens but cannot be read, such as a directory, is
+/// reported here in the library's words, because the library loses memory on its way to them.
+std::unique_ptr<xercesc::InputSource> CKTDOMParser::OpenSource(const std::string& fileName) {
     try {
-        const std::unique_ptr<xercesc::InputSource> source = SourceOf(WidenText(fileName.c_str()));
-        if (m_pSchemaGuard == nullptr || m_pSchemaGuard->IsAcceptable(*source)) {
-            m_pDOMParser->loadGrammar(*source, xercesc::Grammar::SchemaGrammarType, true);
+        std::unique_ptr<xercesc::InputSource> source = SourceOf(WidenText(fileName.c_str()));
+        const std::unique_ptr<xercesc::BinInputStream> stream(source->makeStream());
+        XMLByte byte = 0;
+        if (stream != nullptr) {
+            stream->readBytes(&byte, 1);
+        }
+        return source;
+    } catch (const xercesc::XMLException& e) {
+        if (m_pErrorHandler != nullptr) {
+            m_pErrorHandler->fatalError(
+                xercesc::SAXParseException(e.getMessage(), nullptr, nullptr, 0, 0));
+        }
+        return nullptr;
+    }
+}
+
+bool CKTDOMParser::LoadSchema(const xercesc::InputSource& source) {
+    try {
+        if (m_pSchemaGuard == nullptr || m_pSchemaGuard->IsAcceptable(source)) {
+            m_pDOMParser->loadGrammar(source, xercesc::Grammar::SchemaGrammarType, true);
             m_pDOMParser->useCachedGrammarInParse(true);
         }
     } catch (const xercesc::XMLException& e) {
@@ -126,12 +153,12 @@ bool CKTDOMParser::LoadSchema(const std::string& fileName) {
     return m_pErrorHandler == nullptr || (m_nErrorCount == 0 && m_nWarningCount == 0);
 }
 
-bool CKTDOMParser::Parse(const std::string& fileName) {
+bool CKTDOMParser::Parse(const xercesc::InputSource& source) {
     bool usable = false;
     try {
         // An earlier document stays in memory until its pool is emptied.
         m_pDOMParser->resetDocumentPool();
-        m_pDOMParser->parse(*SourceOf(WidenText(fileName.c_str())));
+        m_pDOMParser->parse(source);
         usable = m_pDOMParser->getErrorCount() < 1;
     } catch (const xercesc::XMLException& e) {
         ReportException("An error occured during parsing. Exception Message: ", e);

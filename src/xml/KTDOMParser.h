@@ -65,8 +65,9 @@ public:
 
 private:
     void InitializeParser();
-    bool LoadSchema(const std::string& fileName);
-    bool Parse(const std::string& fileName);
+    std::unique_ptr<xercesc::InputSource> OpenSource(const std::string& fileName);
+    bool LoadSchema(const xercesc::InputSource& source);
+    bool Parse(const xercesc::InputSource& source);
     void getXMLElement(const xercesc::DOMNode& node, CKTXMLElement* parent);
     CKTXMLElement* copyElement(const xercesc::DOMNode& node, CKTXMLElement* parent);
     CKTXMLElement* copyNode(const xercesc::DOMNode& node, CKTXMLElement* parent);
