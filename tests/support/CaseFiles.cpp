@@ -109,7 +109,7 @@ FileTree ReadTree(const fs::path& directory) {
         return tree;
     }
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(directory)) {
-        const std::string name = fs::relative(entry.path(), directory).string();
+        const std::string name = entry.path().lexically_relative(directory).string();
         if (entry.is_symlink() && !entry.exists()) {
             tree[name] = "(a link to nothing)";
         } else if (entry.is_regular_file()) {
