@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <string>
 #include <string_view>
 
 #include "cobol/KTCOBOLRecordItem.h"
@@ -18,15 +19,6 @@ constexpr std::size_t kMaxBlanks = 254;
 constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kCommentStart = "      *   ";
 constexpr std::string_view kContinuationStart = "      -   ";
-
-void WriteText(std::ostream& out, std::string_view text) {
-    out.write(text.data(), static_cast<std::streamsize>(text.size()));
-}
-
-void WriteSpaces(std::ostream& out, int count) {
-    static const std::string spaces(kMaxBlanks, ' ');
-    WriteText(out, std::string_view(spaces).substr(0, static_cast<std::size_t>(count)));
-}
 
 /// Says whether the literal that `token` begins with is still open after its first `written`
 /// characters. A doubled quotation mark is one character of the literal.
@@ -47,41 +39,38 @@ bool IsLiteralOpen(std::string_view token, std::size_t written) {
 }
 
 /// Starts the line on which a token that does not fit goes on, or begins. Returns its column.
-int StartLine(std::ostream& out, std::string_view token, std::size_t written, int indent,
+int StartLine(std::string& out, std::string_view token, std::size_t written, int indent,
               bool comment) {
-    out.put('\n');
+    out += '\n';
     if (comment) {
-        WriteText(out, kCommentStart);
+        out += kCommentStart;
     } else if (written > 0) {
-        WriteText(out, kContinuationStart);
+        out += kContinuationStart;
     } else {
-        WriteSpaces(out, kContinuation);
+        out.append(kContinuation, ' ');
     }
-    WriteSpaces(out, indent);
+    out.append(static_cast<std::size_t>(indent), ' ');
     if (written > 0 && IsLiteralOpen(token, written)) {
-        out.put('"');
+        out += '"';
         return indent + kContinuation + 1;
     }
     return indent + kContinuation;
 }
 
-void WriteToken(std::string_view token, std::ostream& out, int indent, int& column, bool comment) {
-    if (out.fail()) {
-        return;
-    }
+void AppendToken(std::string& out, std::string_view token, int indent, int& column, bool comment) {
     indent = std::clamp(indent, 0, kMaxIndent);
     const bool fits = static_cast<int>(token.size()) + column < kFreshEntry;
     std::size_t written = 0;
     while (written < token.size() && token[written] != '\n' && token[written] != '\r') {
         if (!fits && column >= kFreshEntry) {
             column = indent - (comment ? 1 : 0) + kAreaA;
-            WriteSpaces(out, column);
+            out.append(static_cast<std::size_t>(column), ' ');
         } else if (!fits) {
             column = StartLine(out, token, written, indent, comment);
         }
         const auto room = static_cast<std::size_t>(kLastColumn - column);
         const std::string_view rest = token.substr(written);
-        WriteText(out, rest.substr(0, room));
+        out += rest.substr(0, room);
         if (rest.size() <= room) {
             column += static_cast<int>(rest.size());
             return;
@@ -90,11 +79,23 @@ void WriteToken(std::string_view token, std::ostream& out, int indent, int& colu
     }
 }
 
+void AppendBlanks(std::string& out, std::size_t count, int indent, int& column, bool comment) {
+    while (count > 0) {
+        const std::size_t piece = std::min(count, kMaxBlanks);
+        AppendToken(out, std::string(piece, ' '), indent, column, comment);
+        count -= piece;
+    }
+}
+
+void WriteText(std::ostream& out, std::string_view text) {
+    out.write(text.data(), static_cast<std::streamsize>(text.size()));
+}
+
 }  // namespace
 
 void CKTCOBOLRecordItem::OutputFixedFormatCOBOL(const char* line, std::ostream& out) {
-    std::ostream& target = out.fail() ? std::cout : out;
     const std::string_view text(line);
+    std::string entry;
     std::size_t start = text.find_first_not_of(kBlanks);
     if (start != std::string_view::npos) {
         const int indent =
@@ -103,24 +104,26 @@ void CKTCOBOLRecordItem::OutputFixedFormatCOBOL(const char* line, std::ostream& 
         const bool comment = text.substr(start, end - start) == "*";
         int column = kFreshEntry;
         for (;;) {
-            WriteToken(text.substr(start, end - start), target, indent, column, comment);
+            AppendToken(entry, text.substr(start, end - start), indent, column, comment);
             start = text.find_first_not_of(kBlanks, end);
             if (start == std::string_view::npos) {
                 break;
             }
-            for (std::size_t blanks = start - end; blanks > 0;) {
-                const std::size_t piece = std::min(blanks, kMaxBlanks);
-                WriteToken(std::string(piece, ' '), target, indent, column, comment);
-                blanks -= piece;
-            }
+            AppendBlanks(entry, start - end, indent, column, comment);
             end = std::min(text.find_first_of(kBlanks, start), text.size());
         }
     }
-    target.put('\n');
+    entry += '\n';
+    WriteText(out.fail() ? std::cout : out, entry);
 }
 
 void CKTCOBOLRecordItem::OutputCOBOLToken(const char* token, std::ostream& out, int indent,
                                           int& column, bool comment) {
-    WriteToken(token, out, indent, column, comment);
+    if (out.fail()) {
+        return;
+    }
+    std::string text;
+    AppendToken(text, token, indent, column, comment);
+    WriteText(out, text);
     out.flush();
 }
