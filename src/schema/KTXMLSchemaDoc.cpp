@@ -1,5 +1,6 @@
 #include "schema/KTXMLSchemaDoc.h"
 
+#include <array>
 #include <filesystem>
 #include <optional>
 #include <utility>
@@ -227,12 +228,13 @@ bool CKTXMLSchemaDoc::InitializeElementLists() {
         }
     }
     CKTXMLElement* first = m_pSchemaElement->getFirstChildElem();
-    const std::pair<const char*, ElementList*> lists[] = {{"complexType", &m_ComplexTypeList},
-                                                          {"simpleType", &m_SimpleTypeList},
-                                                          {"group", &m_GroupList},
-                                                          {"attributeGroup", &m_AttributeGroupList},
-                                                          {"element", &m_ElementList},
-                                                          {"attribute", &m_AttributeList}};
+    const std::array<std::pair<const char*, ElementList*>, 6> lists = {
+        {{"complexType", &m_ComplexTypeList},
+         {"simpleType", &m_SimpleTypeList},
+         {"group", &m_GroupList},
+         {"attributeGroup", &m_AttributeGroupList},
+         {"element", &m_ElementList},
+         {"attribute", &m_AttributeList}}};
     for (const auto& [name, list] : lists) {
         first->findElement(name, compareElemByName, *list, false);
     }

@@ -72,16 +72,17 @@ void CKTDOMParser::InitializeParser() {
     m_pDOMParser->setCreateEntityReferenceNodes(false);
     m_Limits.setEntityExpansionLimit(kMaxEntityExpansions);
     m_pDOMParser->setSecurityManager(&m_Limits);
-    m_pErrorHandler.reset(new (std::nothrow) CKTDOMErrorHandler);
-    if (m_pErrorHandler != nullptr) {
-        m_pDOMParser->setErrorHandler(m_pErrorHandler.get());
-        setVerboseError(true);
-        m_pSchemaGuard = std::make_unique<CKTSchemaGuard>(*m_pErrorHandler);
-        m_pDOMParser->setXMLEntityResolver(m_pSchemaGuard.get());
-    } else {
-        WriteLine(std::cerr, {"Failed to create KTDOMErrorHandler"});
-    }
     m_bParsed = false;
+    try {
+        m_pErrorHandler = std::make_unique<CKTDOMErrorHandler>();
+    } catch (const std::bad_alloc&) {
+        WriteLine(std::cerr, {"Failed to create KTDOMErrorHandler"});
+        return;
+    }
+    m_pDOMParser->setErrorHandler(m_pErrorHandler.get());
+    setVerboseError(true);
+    m_pSchemaGuard = std::make_unique<CKTSchemaGuard>(*m_pErrorHandler);
+    m_pDOMParser->setXMLEntityResolver(m_pSchemaGuard.get());
 }
 
 bool CKTDOMParser::ParseFile(const std::string& fileName, FILE_TYPE type, bool validate) {
