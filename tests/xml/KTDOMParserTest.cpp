@@ -2,7 +2,7 @@
 
 #include <unistd.h>
 
-#include <filesystem>
+#include <cstdio>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -16,62 +16,42 @@ namespace {
 
 class ParserTest : public testing::Test {
 protected:
-    void SetUp() override {
-        m_file = std::filesystem::temp_directory_path() /
-                 ("parser-test-" + std::to_string(::getpid()) + ".xml");
-    }
-    void TearDown() override {
-        std::filesystem::remove(m_file);
-        m_nErrorCount = 0;
-    }
-    bool Parse(CKTDOMParser& parser, const std::string& text) {
+    void TearDown() override { std::remove(m_file.c_str()); }
+    bool Parse(const std::string& text) {
         std::ofstream(m_file) << text;
-        return parser.ParseFile(m_file, CKTDOMParser::XML_DOCUMENT, false);
+        return m_parser.ParseFile(m_file, CKTDOMParser::XML_DOCUMENT, false);
     }
-    std::filesystem::path m_file;
+    const std::string m_file =
+        testing::TempDir() + "parser-test-" + std::to_string(::getpid()) + ".xml";
+    CKTDOMParser m_parser;
 };
 
-TEST_F(ParserTest, TheTreeHoldsElementsAndTheLastText) {
-    CKTDOMParser parser;
-    EXPECT_EQ(parser.getXMLDocument(), nullptr);
+TEST_F(ParserTest, AFailedParseIsCountedAndTheTreeHoldsTheLastText) {
+    m_parser.setVerboseError(false);
+    const RedirectedStream errors(std::cerr);
+    EXPECT_FALSE(Parse("<r>\n</s>"));
+    m_parser.DisplayErrorSummary();
+    EXPECT_EQ(m_parser.getXMLDocument(), nullptr);
+    EXPECT_EQ(errors.Text(),
+              "Fatal Error : " + m_file + "(Line 2, Col 3)\n1 error(s), 0 warning(s)\n");
+    m_parser.ResetErrors();
+    EXPECT_EQ(m_parser.getErrorCount(), 0);
+
     ASSERT_TRUE(
-        Parse(parser,
-              "<?xml version='1.0'?><!-- c --><?pi x?>"
-              "<p:r xmlns:p='u' k=' v '>text<b>in</b>more<![CDATA[lost]]></p:r><!-- d -->"));
-    const auto root = parser.getXMLDocument();
-    ASSERT_NE(root, nullptr);
+        Parse("<!-- c --><?pi x?><p:r xmlns:p='u'>text<b>in</b>more<![CDATA[lost]]></p:r>"));
+    const auto root = m_parser.getXMLDocument();
     EXPECT_EQ(root->getName() + root->getValue(), "");
     const CKTXMLElement* r = root->getFirstChildElem();
     EXPECT_EQ(r->getNextSibling(), nullptr);
-    EXPECT_EQ(r->getName(), "p:r");
-    EXPECT_EQ(r->getValue(), "more");
+    EXPECT_EQ(r->getName() + " " + r->getValue(), "p:r more");
     EXPECT_EQ(r->getFirstChildElem()->getValue(), "in");
-    EXPECT_EQ(r->getAttribute("k")->getValue(), " v ");
-    EXPECT_EQ(r->getAttribute("k")->getParent(), r);
     EXPECT_EQ(r->getAttribute("xmlns:p")->getValue(), "u");
-    EXPECT_NE(r->getXMLFormatter(), nullptr);
-}
-
-TEST_F(ParserTest, AFailedParseIsCountedAndLeavesNoTree) {
-    CKTDOMParser parser;
-    parser.setVerboseError(false);
-    const RedirectedStream errors(std::cerr);
-    EXPECT_FALSE(Parse(parser, "<r>\n</s>"));
-    parser.DisplayErrorSummary();
-    EXPECT_EQ(parser.getXMLDocument(), nullptr);
-    EXPECT_EQ(parser.getErrorCount(), 1);
-    EXPECT_EQ(errors.Text(),
-              "Fatal Error : " + m_file.string() + "(Line 2, Col 3)\n1 error(s), 0 warning(s)\n");
-    parser.ResetErrors();
-    EXPECT_EQ(parser.getErrorCount(), 0);
-    EXPECT_TRUE(Parse(parser, "<r/>"));
 }
 
 TEST_F(ParserTest, AttributeValuesAreEscapedAndOtherTextIsNot) {
-    CKTDOMParser parser;
-    ASSERT_TRUE(Parse(parser, "<r/>"));
+    ASSERT_TRUE(Parse("<r/>"));
     const RedirectedStream console(std::cout);
-    const auto root = parser.getXMLDocument();
+    const auto root = m_parser.getXMLDocument();
     xercesc::XMLFormatter& out = *root->getXMLFormatter();
     std::ofstream target(m_file);
     root->getFormatTarget()->setTarget(&target);
