@@ -1,0 +1,2 @@
+       01 small PIC S9(18) identified by "small".
+
