@@ -20,7 +20,7 @@ const std::string kComment = "\n      *   ";
 const std::string kQuote = "\"";
 
 TEST(FixedFormat, EntriesStayWithinColumn72) {
-    // A run of 300 blanks is written as 254 and 46 blanks, each piece cut like a word.
+    // A run of 314 blanks is written as 254 and 60 blanks, each piece cut like a word.
     const std::string full = kContinued + Of(62, ' ');
     const std::string cutBlanks = kNextLine + Of(62, ' ') + full + full + full + kContinued;
     const std::string lit = "01 A identified by \"";
@@ -60,8 +60,8 @@ TEST(FixedFormat, EntriesStayWithinColumn72) {
         {"long word of a comment", "* " + Of(70, 'w'),
          "      * " + kComment + Of(62, 'w') + kComment + Of(8, 'w')},
         {"tabs", "01\t\tA  \t B.  ", kEntry + "01  A    B."},
-        {"long blanks", "01" + Of(300, ' ') + "A.",
-         kEntry + "01" + cutBlanks + Of(6 + 46, ' ') + "A."},
+        {"long blanks", "01" + Of(314, ' ') + "A.",
+         kEntry + "01" + cutBlanks + Of(6, ' ') + kNextLine + Of(60, ' ') + "A."},
         {"empty", "", ""},
         {"only blanks", " \t ", ""},
     };

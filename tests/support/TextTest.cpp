@@ -3,6 +3,7 @@
 #include <clocale>
 #include <cstdio>
 #include <iostream>
+#include <sstream>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -74,6 +75,22 @@ TEST_F(TextTest, FileNamesWithBlanksAreQuotedOnce) {
     EXPECT_EQ(std::fread(text, 1, sizeof text, trace), 44U);
     EXPECT_STREQ(text, "Removed Quotes : a b\nFinal Filename : \"a b\"\n");
     std::fclose(trace);
+}
+
+TEST_F(TextTest, MessagesAreCountedByTheirBeginningOnTheConsoleAlone) {
+    const int errors = m_nErrorCount;
+    const int warnings = m_nWarningCount;
+    const RedirectedStream console(std::cerr);
+    for (const char* text : {"Error : ", "error :x", "Internal Error : ", "WARNING : ", "Error: ",
+                             "\nError : ", "Fatal Error : ", "Internal", "Warning", ""}) {
+        std::cerr << text;
+    }
+    std::ostringstream other;
+    other << "Error : ";
+    std::ostream detached(nullptr);
+    detached << "Error : ";
+    EXPECT_EQ(m_nErrorCount - errors, 3);
+    EXPECT_EQ(m_nWarningCount - warnings, 1);
 }
 
 }  // namespace
