@@ -1,11 +1,25 @@
 #include "xml/KTDOMFormatTarget.h"
 
+#include <algorithm>
 #include <iostream>
 #include <string>
 
 #include "support/Text.h"
 
 using xercesc::XMLFormatter;
+
+namespace {
+
+constexpr std::size_t kMarkupPiece = 8192;
+
+/// Says whether `text` is ASCII without a character that markup or attribute values escape.
+bool NeedsNoEscape(const std::string& text) {
+    return std::all_of(text.begin(), text.end(), [](char c) {
+        return c >= ' ' && c != '&' && c != '<' && c != '>' && c != '"' && c != '\'';
+    });
+}
+
+}  // namespace
 
 CKTDOMFormatTarget::CKTDOMFormatTarget() : m_pSavedBuffer(std::cout.rdbuf()) {}
 
@@ -36,6 +50,47 @@ void writeElem(XMLFormatter& f, const char* name) {
 void writeAttr(XMLFormatter& f, const char* name, const char* value) {
     f << XMLFormatter::NoEscapes << " " << name << "=\"" << XMLFormatter::AttrEscapes << value
       << XMLFormatter::NoEscapes << "\"";
+}
+
+void CKTMarkup::Add(std::string_view text, unsigned indent) {
+    if (m_sPending.size() > kMarkupPiece) {
+        Flush();
+    }
+    m_sPending.append(indent, ' ');
+    m_sPending += text;
+}
+
+void CKTMarkup::AddTag(std::string_view name, unsigned indent) {
+    Add("<", indent);
+    Add(name);
+}
+
+void CKTMarkup::AddAttribute(const char* name, const std::string& value) {
+    if (NeedsNoEscape(value)) {
+        Add(" ");
+        Add(name);
+        Add("=\"");
+        Add(value);
+        Add("\"");
+    } else {
+        Flush();
+        writeAttr(m_Formatter, name, value.c_str());
+    }
+}
+
+void CKTMarkup::AddContent(const std::string& text) {
+    if (NeedsNoEscape(text)) {
+        Add(text);
+    } else {
+        Flush();
+        m_Formatter << XMLFormatter::CharEscapes << text.c_str() << XMLFormatter::NoEscapes;
+    }
+}
+
+void CKTMarkup::Flush() {
+    m_Target.writeChars(reinterpret_cast<const XMLByte*>(m_sPending.data()), m_sPending.size(),
+                        &m_Formatter);
+    m_sPending.clear();
 }
 
 XMLFormatter& operator<<(XMLFormatter& f, const char* text) {

@@ -2,6 +2,7 @@
 
 #include <iostream>
 #include <new>
+#include <vector>
 
 #include <xercesc/dom/DOMException.hpp>
 #include <xercesc/dom/DOMNamedNodeMap.hpp>
@@ -194,24 +195,26 @@ std::unique_ptr<CKTXMLElement> CKTDOMParser::getXMLDocument() {
     }
 }
 
-// Walks the library's document along its own links, because it may be nested without bound.
+// Walks the library's document with a stack of its own, because it may be nested without bound. The
+// way up is remembered: the library finds a parent only by casts at run time.
 void CKTDOMParser::getXMLElement(const DOMNode& node, CKTXMLElement* parent) {
-    CKTXMLElement* element = copyNode(node, parent);
-    for (const DOMNode* at = &node;;) {
-        if (element != nullptr && at->getFirstChild() != nullptr) {
-            parent = element;
-            at = at->getFirstChild();
-        } else {
-            while (at != &node && at->getNextSibling() == nullptr) {
-                at = at->getParentNode();
-                parent = parent->getParent();
-            }
-            if (at == &node) {
-                return;
-            }
-            at = at->getNextSibling();
+    struct Place {
+        const DOMNode* node;
+        CKTXMLElement* parent;
+    };
+    std::vector<Place> pending = {{&node, parent}};
+    while (!pending.empty()) {
+        Place& place = pending.back();
+        const DOMNode* at = place.node;
+        CKTXMLElement* above = place.parent;
+        place.node = at == &node ? nullptr : at->getNextSibling();
+        if (place.node == nullptr) {
+            pending.pop_back();
         }
-        element = copyNode(*at, parent);
+        CKTXMLElement* element = copyNode(*at, above);
+        if (element != nullptr && at->getFirstChild() != nullptr) {
+            pending.push_back({at->getFirstChild(), element});
+        }
     }
 }
 
