@@ -1,0 +1,1 @@
+      * Its items stand in the dictionary.
