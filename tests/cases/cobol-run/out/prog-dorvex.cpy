@@ -1,0 +1,1 @@
+        1 A pic 9 identified by "a" count in a-count.
