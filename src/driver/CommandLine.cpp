@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <climits>
 #include <cstring>
 #include <iostream>
 #include <string_view>
@@ -58,7 +57,7 @@ Options:
 constexpr int kExtensionLength = 4;
 
 /// One option: recognised by its name as a case-insensitive prefix; a value option fills `value`, a
-/// switch sets `flag` to `state`, the others have neither.
+/// switch sets `flag` to `state`; one option does both, and some neither.
 struct Option {
     const char* name;
     std::string Settings::*value;

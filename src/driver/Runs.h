@@ -11,4 +11,9 @@ int RunValidation(const Settings& settings);
 /// schema cannot be used, otherwise the number of errors and warnings.
 int RunSchemaToCobol(const Settings& settings);
 
+/// Compiles the COBOL source that `settings` names for checking, and writes mapping file (when
+/// asked for), schema and enriched copybook from the compiler's data dictionary. Returns the exit
+/// status: 1 when a step before the outputs fails, otherwise the number of errors and warnings.
+int RunCobolToSchema(const Settings& settings);
+
 #endif

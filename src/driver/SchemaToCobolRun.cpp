@@ -1,4 +1,6 @@
 #include <iostream>
+#include <memory>
+#include <string_view>
 
 #include "driver/Runs.h"
 #include "schema/KTCOBOLGenerator.h"

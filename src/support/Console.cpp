@@ -83,6 +83,10 @@ void WriteLine(std::ostream& stream, std::initializer_list<std::string_view> pie
     stream << line.c_str();
 }
 
+void ReportUnwritableOutput(std::string_view name) {
+    WriteLine(std::cerr, {"Error : Unable to write output file \"", name, "\""});
+}
+
 void DisplayHeader() {
     ConsoleState& state = State();
     if (state.bannerShown || state.quiet) {
@@ -133,7 +137,7 @@ void RestoreStreams() {
         state.savedErrors = nullptr;
         state.log.close();
         if (state.log.fail()) {
-            WriteLine(std::cerr, {"Error : Unable to write output file \"", kLogName, "\""});
+            ReportUnwritableOutput(kLogName);
         }
     }
 }

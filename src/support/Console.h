@@ -21,6 +21,9 @@ std::ostream& operator<<(std::ostream& stream, const char* text);
 /// reaches the stream in one piece and is counted by its beginning. Pieces hold no NUL.
 void WriteLine(std::ostream& stream, std::initializer_list<std::string_view> pieces);
 
+/// Reports as an error that the output file `name` could not be written completely.
+void ReportUnwritableOutput(std::string_view name);
+
 /// Shows the banner on the console or in the log, once per process; never while quiet and never in
 /// an output file that standard output is redirected into.
 void DisplayHeader();

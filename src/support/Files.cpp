@@ -9,7 +9,6 @@
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
-#include <limits>
 #include <memory>
 #include <random>
 #include <sstream>
@@ -21,10 +20,11 @@
 namespace {
 
 constexpr std::size_t kAnswerSize = 1024;
+constexpr std::streamsize kLongestAnswer = 1 << 20;
 constexpr std::size_t kOutputBufferSize = 65536;
 
 /// Reads one line of at most the answer buffer's size from standard input and drops the rest of a
-/// longer one. Returns false at the end of the input.
+/// longer one. Returns false at the end of the input, which a line without end stands for as well.
 bool ReadAnswer(std::string& answer) {
     std::array<char, kAnswerSize> buffer{};
     std::cin.getline(buffer.data(), buffer.size());
@@ -34,7 +34,8 @@ bool ReadAnswer(std::string& answer) {
     }
     if (std::cin.fail() && !std::cin.bad()) {
         std::cin.clear();
-        std::cin.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
+        std::cin.ignore(kLongestAnswer, '\n');
+        return std::cin.gcount() < kLongestAnswer;
     }
     return !std::cin.bad();
 }
@@ -156,18 +157,14 @@ std::string ProcessSpaceyFilename(const std::string& name, std::FILE* trace) {
     return result;
 }
 
-void ReportUnwritableOutput(const std::string& name) {
-    WriteLine(std::cerr, {"Error : Unable to write output file \"", name, "\""});
-}
-
 CKTOutputFile::CKTOutputFile(const std::string& name) : m_Buffer(kOutputBufferSize) {
     m_File.rdbuf()->pubsetbuf(m_Buffer.data(), static_cast<std::streamsize>(m_Buffer.size()));
     if (name.empty()) {
         return;
     }
+    std::cout.flush();
     m_File.open(name, std::ios::binary | std::ios::trunc);
     if (m_File.is_open()) {
-        std::cout.flush();
         m_pSavedBuffer = std::cout.rdbuf(m_File.rdbuf());
         m_bRedirected = true;
         // Otherwise each message on standard error would flush the file.

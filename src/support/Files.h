@@ -26,9 +26,6 @@ std::string GetTemporaryFilename(const char* extensions);
 /// `trace` (may be null) receives a line after each of the two steps.
 std::string ProcessSpaceyFilename(const std::string& name, std::FILE* trace);
 
-/// Reports that the output file `name` could not be written completely.
-void ReportUnwritableOutput(const std::string& name);
-
 /// An output file that standard output is lent to while the object lives. A file that cannot be
 /// opened leaves standard output as it is.
 class CKTOutputFile {

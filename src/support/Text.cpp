@@ -118,9 +118,12 @@ std::string NarrowMessage(std::u16string_view text) {
     return narrow;
 }
 
-std::u16string WidenText(const char* text) {
+std::u16string WidenText(std::string_view text) {
+    if (std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; })) {
+        return {text.begin(), text.end()};
+    }
     std::u16string wide;
-    for (const wchar_t c : my_mbstowcs(text)) {
+    for (const wchar_t c : my_mbstowcs(std::string(text).c_str())) {
         const auto point = static_cast<char32_t>(c);
         if (point < 0x10000) {
             wide += static_cast<char16_t>(point);

@@ -32,7 +32,7 @@ std::string NarrowText(std::u16string_view text);
 std::string NarrowMessage(std::u16string_view text);
 
 /// Turns narrow text of the locale into UTF-16; failures are reported as by my_mbstowcs.
-std::u16string WidenText(const char* text);
+std::u16string WidenText(std::string_view text);
 
 /// Reads an optional sign and the leading decimal digits of `text`; what follows is ignored and
 /// text without digits reads as 0. Values beyond the range of the result saturate.

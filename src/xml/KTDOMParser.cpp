@@ -6,9 +6,6 @@
 
 #include <xercesc/dom/DOMException.hpp>
 #include <xercesc/dom/DOMNamedNodeMap.hpp>
-#include <xercesc/framework/LocalFileInputSource.hpp>
-#include <xercesc/framework/URLInputSource.hpp>
-#include <xercesc/util/BinInputStream.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLUni.hpp>
@@ -16,6 +13,7 @@
 
 #include "support/Console.h"
 #include "support/Text.h"
+#include "xml/InputSources.h"
 
 using xercesc::DOMNode;
 using xercesc::XercesDOMParser;
@@ -24,15 +22,6 @@ namespace {
 
 void ReportException(const char* prefix, const xercesc::XMLException& e) {
     WriteLine(std::cerr, {prefix, NarrowMessage(e.getMessage())});
-}
-
-/// The source that the library itself would make of a file name.
-std::unique_ptr<xercesc::InputSource> SourceOf(const std::u16string& fileName) {
-    xercesc::XMLURL url;
-    if (xercesc::XMLURL::parse(fileName.c_str(), url) && !url.isRelative()) {
-        return std::make_unique<xercesc::URLInputSource>(url);
-    }
-    return std::make_unique<xercesc::LocalFileInputSource>(fileName.c_str());
 }
 
 }  // namespace
@@ -49,7 +38,7 @@ CKTDOMParser::~CKTDOMParser() {
     m_pFormatter.reset();
     m_pFormatTarget.reset();
     m_pDOMParser.reset();
-    m_pSchemaGuard.reset();
+    m_pInputGuard.reset();
     m_pErrorHandler.reset();
     try {
         xercesc::XMLPlatformUtils::Terminate();
@@ -82,8 +71,8 @@ void CKTDOMParser::InitializeParser() {
     }
     m_pDOMParser->setErrorHandler(m_pErrorHandler.get());
     setVerboseError(true);
-    m_pSchemaGuard = std::make_unique<CKTSchemaGuard>(*m_pErrorHandler);
-    m_pDOMParser->setXMLEntityResolver(m_pSchemaGuard.get());
+    m_pInputGuard = std::make_unique<CKTInputGuard>(*m_pErrorHandler);
+    m_pDOMParser->setXMLEntityResolver(m_pInputGuard.get());
 }
 
 bool CKTDOMParser::ParseFile(const std::string& fileName, FILE_TYPE type, bool validate) {
@@ -115,32 +104,36 @@ bool CKTDOMParser::ParseFile(const std::string& fileName, FILE_TYPE type, bool v
             m_pDOMParser->setValidationScheme(XercesDOMParser::Val_Always);
             break;
     }
+    if (type != XML_SCHEMA && m_pInputGuard != nullptr &&
+        !m_pInputGuard->IsAcceptableDocument(*source)) {
+        m_bParsed = false;
+        return false;
+    }
     return Parse(*source);
 }
 
-/// Makes the input source of a file. One that opens but cannot be read, such as a directory, is
-/// reported here in the library's words, because the library loses memory on its way to them.
+/// Makes the input source of a file. One that cannot be read as a file is reported here in the
+/// library's words: on its way to them the library loses memory, and a pipe would hold it up.
 std::unique_ptr<xercesc::InputSource> CKTDOMParser::OpenSource(const std::string& fileName) {
+    std::u16string fault = u"unable to read data from file";
     try {
-        std::unique_ptr<xercesc::InputSource> source = SourceOf(WidenText(fileName.c_str()));
-        const std::unique_ptr<xercesc::BinInputStream> stream(source->makeStream());
-        XMLByte byte = 0;
-        if (stream != nullptr) {
-            stream->readBytes(&byte, 1);
+        auto source = MakeInputSource(nullptr, WidenText(fileName).c_str());
+        if (!IsUnreadableFile(*source)) {
+            return source;
         }
-        return source;
     } catch (const xercesc::XMLException& e) {
-        if (m_pErrorHandler != nullptr) {
-            m_pErrorHandler->fatalError(
-                xercesc::SAXParseException(e.getMessage(), nullptr, nullptr, 0, 0));
-        }
-        return nullptr;
+        fault = e.getMessage();
     }
+    if (m_pErrorHandler != nullptr) {
+        m_pErrorHandler->fatalError(
+            xercesc::SAXParseException(fault.c_str(), nullptr, nullptr, 0, 0));
+    }
+    return nullptr;
 }
 
 bool CKTDOMParser::LoadSchema(const xercesc::InputSource& source) {
     try {
-        if (m_pSchemaGuard == nullptr || m_pSchemaGuard->IsAcceptable(source)) {
+        if (m_pInputGuard == nullptr || m_pInputGuard->IsAcceptableSchema(source)) {
             m_pDOMParser->loadGrammar(source, xercesc::Grammar::SchemaGrammarType, true);
             m_pDOMParser->useCachedGrammarInParse(true);
         }
@@ -164,12 +157,15 @@ bool CKTDOMParser::Parse(const xercesc::InputSource& source) {
         usable = m_pDOMParser->getErrorCount() < 1;
     } catch (const xercesc::XMLException& e) {
         ReportException("An error occured during parsing. Exception Message: ", e);
+        ++m_nErrorCount;
         usable = true;
     } catch (const xercesc::DOMException& e) {
         WriteLine(std::cerr, {"A DOM error occured during parsing. DOMException code: ",
                               std::to_string(e.code)});
+        ++m_nErrorCount;
     } catch (...) {
         WriteLine(std::cerr, {"An error occured during parsing"});
+        ++m_nErrorCount;
     }
     m_bParsed = usable;
     return usable;

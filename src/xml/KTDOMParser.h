@@ -10,14 +10,14 @@
 #include <xercesc/parsers/XercesDOMParser.hpp>
 #include <xercesc/util/SecurityManager.hpp>
 
+#include "xml/InputGuard.h"
 #include "xml/KTDOMErrorHandler.h"
 #include "xml/KTDOMFormatTarget.h"
 #include "xml/KTXMLElement.h"
-#include "xml/SchemaGuard.h"
 
 /// Parses one file by name with the parser library and turns it into the program's element tree.
-/// Parsers may overlap: the library counts its initialisations. A parser must outlive the output
-/// machinery that the trees it built lead to.
+/// Parsers may overlap: the library counts its initialisations. A parser must outlive every use of
+/// getXMLFormatter and getFormatTarget on the trees that it built.
 class CKTDOMParser {
 public:
     enum FILE_TYPE {
@@ -74,7 +74,7 @@ private:
 
     xercesc::SecurityManager m_Limits;
     std::unique_ptr<CKTDOMErrorHandler> m_pErrorHandler;
-    std::unique_ptr<CKTSchemaGuard> m_pSchemaGuard;
+    std::unique_ptr<CKTInputGuard> m_pInputGuard;
     std::unique_ptr<xercesc::XercesDOMParser> m_pDOMParser;
     std::unique_ptr<CKTDOMFormatTarget> m_pFormatTarget;
     std::unique_ptr<xercesc::XMLFormatter> m_pFormatter;

@@ -1,15 +1,14 @@
-#include "xml/SchemaGuard.h"
+#include "xml/InputGuard.h"
 
 #include <memory>
 #include <optional>
 #include <string>
 #include <unordered_set>
 
-#include <xercesc/framework/LocalFileInputSource.hpp>
 #include <xercesc/framework/MemBufInputSource.hpp>
-#include <xercesc/framework/URLInputSource.hpp>
 #include <xercesc/framework/XMLPScanToken.hpp>
 #include <xercesc/sax/Locator.hpp>
+#include <xercesc/sax2/Attributes.hpp>
 #include <xercesc/sax2/DefaultHandler.hpp>
 #include <xercesc/sax2/SAX2XMLReader.hpp>
 #include <xercesc/sax2/XMLReaderFactory.hpp>
@@ -17,9 +16,11 @@
 #include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/SecurityManager.hpp>
 #include <xercesc/util/XMLResourceIdentifier.hpp>
+#include <xercesc/util/XMLString.hpp>
 #include <xercesc/util/XMLUni.hpp>
 
 #include "support/Text.h"
+#include "xml/InputSources.h"
 #include "xml/KTDOMErrorHandler.h"
 
 using xercesc::SAXParseException;
@@ -27,35 +28,70 @@ using xercesc::SAXParseException;
 namespace {
 
 constexpr int kMaxSchemaDepth = 20000;
+constexpr XMLSize_t kMaxEntityText = 20'000'000;
 
-/// Watches one reading pass: nesting, and a fatal error in a document that may declare entities.
+/// Watches one reading pass: nesting, the text that comes from entities, and a fatal error in a
+/// schema that may declare entities.
 class CKTGuardHandler : public xercesc::DefaultHandler {
 public:
+    explicit CKTGuardHandler(bool schema) : m_bSchema(schema) {}
+
     void setDocumentLocator(const xercesc::Locator* locator) override { m_pLocator = locator; }
     void startDTD(const XMLCh*, const XMLCh*, const XMLCh*) override { m_bDocumentType = true; }
     void startElement(const XMLCh*, const XMLCh*, const XMLCh*,
-                      const xercesc::Attributes&) override {
-        if (++m_nDepth == kMaxSchemaDepth + 1) {
-            const std::u16string text = WidenText(
-                ("elements are nested deeper than " + std::to_string(kMaxSchemaDepth) + " levels")
-                    .c_str());
-            m_Refusal.emplace(text.c_str(), *m_pLocator);
+                      const xercesc::Attributes& attributes) override {
+        m_bStarted = true;
+        if (++m_nDepth == kMaxSchemaDepth + 1 && m_bSchema) {
+            Refuse("elements are nested deeper than " + std::to_string(kMaxSchemaDepth) +
+                   " levels");
+        }
+        if (m_bDocumentType) {
+            for (XMLSize_t i = 0; i < attributes.getLength(); ++i) {
+                CountText(xercesc::XMLString::stringLen(attributes.getValue(i)));
+            }
         }
     }
     void endElement(const XMLCh*, const XMLCh*, const XMLCh*) override { --m_nDepth; }
+    void startEntity(const XMLCh*) override { ++m_nOpenEntities; }
+    void endEntity(const XMLCh*) override { --m_nOpenEntities; }
+    void characters(const XMLCh*, const XMLSize_t length) override {
+        if (m_nOpenEntities > 0) {
+            CountText(length);
+        }
+    }
     void fatalError(const SAXParseException& e) override {
-        if (m_bDocumentType) {
+        if (m_bDocumentType && m_bSchema) {
             m_Refusal.emplace(e);
         }
     }
 
     [[nodiscard]] const std::optional<SAXParseException>& refusal() const { return m_Refusal; }
 
+    /// Nothing is left to be found: the input is refused, or a document that declares no entities.
+    [[nodiscard]] bool isDone() const {
+        return m_Refusal || (m_bStarted && !m_bSchema && !m_bDocumentType);
+    }
+
 private:
+    void CountText(XMLSize_t length) {
+        m_nEntityText += length;
+        if (m_nEntityText > kMaxEntityText) {
+            Refuse("entities expand to more than " + std::to_string(kMaxEntityText) +
+                   " characters");
+        }
+    }
+    void Refuse(const std::string& reason) {
+        m_Refusal.emplace(WidenText(reason).c_str(), *m_pLocator);
+    }
+
+    bool m_bSchema;
     const xercesc::Locator* m_pLocator = nullptr;
     std::optional<SAXParseException> m_Refusal;
     int m_nDepth = 0;
+    int m_nOpenEntities = 0;
+    XMLSize_t m_nEntityText = 0;
     bool m_bDocumentType = false;
+    bool m_bStarted = false;
 };
 
 void ReadThrough(const xercesc::InputSource& source, CKTGuardHandler& handler) {
@@ -72,18 +108,9 @@ void ReadThrough(const xercesc::InputSource& source, CKTGuardHandler& handler) {
     reader->setLexicalHandler(&handler);
     xercesc::XMLPScanToken token;
     bool more = reader->parseFirst(source, token);
-    while (more && !handler.refusal()) {
+    while (more && !handler.isDone()) {
         more = reader->parseNext(token);
     }
-}
-
-std::unique_ptr<xercesc::InputSource> SourceOf(const xercesc::XMLResourceIdentifier& resource) {
-    xercesc::XMLURL url;
-    if (!url.setURL(resource.getBaseURI(), resource.getSystemId(), url) || url.isRelative()) {
-        return std::make_unique<xercesc::LocalFileInputSource>(resource.getBaseURI(),
-                                                               resource.getSystemId());
-    }
-    return std::make_unique<xercesc::URLInputSource>(url);
 }
 
 /// The schema files that were read through in this process and found acceptable.
@@ -94,12 +121,24 @@ std::unordered_set<std::u16string>& AcceptedFiles() {
 
 }  // namespace
 
-bool CKTSchemaGuard::IsAcceptable(const xercesc::InputSource& source) {
+bool CKTInputGuard::IsAcceptableSchema(const xercesc::InputSource& source) {
     const std::u16string name = source.getSystemId();
     if (AcceptedFiles().contains(name)) {
         return true;
     }
-    CKTGuardHandler handler;
+    const bool acceptable = IsAcceptable(source, true);
+    if (acceptable) {
+        AcceptedFiles().insert(name);
+    }
+    return acceptable;
+}
+
+bool CKTInputGuard::IsAcceptableDocument(const xercesc::InputSource& source) {
+    return IsAcceptable(source, false);
+}
+
+bool CKTInputGuard::IsAcceptable(const xercesc::InputSource& source, bool schema) {
+    CKTGuardHandler handler(schema);
     try {
         const std::unique_ptr<xercesc::BinInputStream> probe(source.makeStream());
         if (probe != nullptr) {
@@ -115,11 +154,10 @@ bool CKTSchemaGuard::IsAcceptable(const xercesc::InputSource& source) {
         m_Handler.setMuted(true);
         return false;
     }
-    AcceptedFiles().insert(name);
     return true;
 }
 
-xercesc::InputSource* CKTSchemaGuard::resolveEntity(xercesc::XMLResourceIdentifier* resource) {
+xercesc::InputSource* CKTInputGuard::resolveEntity(xercesc::XMLResourceIdentifier* resource) {
     using Resource = xercesc::XMLResourceIdentifier;
     const Resource::ResourceIdentifierType type = resource->getResourceIdentifierType();
     const bool schema = type == Resource::SchemaGrammar || type == Resource::SchemaImport ||
@@ -128,7 +166,7 @@ xercesc::InputSource* CKTSchemaGuard::resolveEntity(xercesc::XMLResourceIdentifi
         return nullptr;
     }
     try {
-        if (IsAcceptable(*SourceOf(*resource))) {
+        if (IsAcceptableSchema(*MakeInputSource(resource->getBaseURI(), resource->getSystemId()))) {
             return nullptr;
         }
     } catch (const xercesc::XMLException&) {

@@ -1,0 +1,210 @@
+#include <unistd.h>
+
+#include <iostream>
+#include <memory>
+
+#include "driver/CobolCompiler.h"
+#include "driver/Runs.h"
+#include "support/Console.h"
+#include "support/Files.h"
+#include "support/Text.h"
+#include "xml/KTDOMParser.h"
+#include "xmlgen/KTXMLGenerator.h"
+
+namespace {
+
+/// The files of one run.
+struct FileNames {
+    std::string base;           ///< the source without its extension
+    std::string dictionary;     ///< what the compiler writes
+    std::string temporaryCopy;  ///< what is compiled in the source's place; empty when it is not
+    std::string schema;
+    std::string copybook;
+};
+
+int Stop() {
+    RestoreStreams();
+    return 1;
+}
+
+int StopWithMessage(std::initializer_list<std::string_view> message) {
+    WriteLine(std::cout, message);
+    return Stop();
+}
+
+int StopAfterParsing(CKTDOMParser& parser, const char* what, const std::string& name) {
+    std::cout << "\n";
+    parser.DisplayErrorSummary();
+    return StopWithMessage({what, name});
+}
+
+bool HasExtension(const std::string& extension, const char* wanted) {
+    return my_strnicmp(extension.c_str(), wanted, 4) == 0;
+}
+
+/// Splits the source and chooses what is compiled: a copybook is always compiled as a copy of its
+/// own, a program only when the dictionary would overwrite a file of the user's. False after a
+/// message.
+bool ChooseNames(const Settings& settings, FileNames& names) {
+    const std::string& source = settings.sourceName;
+    std::string extension = my_strrchr(source.c_str(), ".");
+    if (extension.size() == source.size()) {
+        extension.clear();
+    }
+    names.base = source.substr(0, source.size() - extension.size());
+    const bool program = HasExtension(extension, ".CBL");
+    if (!program && !HasExtension(extension, ".CPY")) {
+        WriteLine(std::cout, {"Error : Unrecognized file type \"", source, "\"\n"});
+        Usage();
+        return false;
+    }
+    names.dictionary = names.base + ".xml";
+    if (!program || FileExists(names.dictionary, false)) {
+        const std::string stem = GetTemporaryFilename(".xml .cbl");
+        if (stem.empty()) {
+            return false;
+        }
+        names.dictionary = stem + ".xml";
+        names.temporaryCopy = stem + ".cbl";
+        CopyFileToFile(source, names.temporaryCopy);
+    }
+    names.schema = settings.schemaName.empty() ? names.base + ".xsd" : settings.schemaName;
+    names.copybook =
+        settings.copybookName.empty() ? names.base + "-dorvex" + ".cpy" : settings.copybookName;
+    return true;
+}
+
+/// Compiles; false after a message when the run ends here.
+bool Compile(const Settings& settings, const FileNames& names) {
+    const std::string& source = settings.sourceName;
+    const std::string compileName =
+        ProcessSpaceyFilename(names.temporaryCopy.empty() ? source : names.temporaryCopy, nullptr);
+    const std::string directives =
+        settings.directiveFile.empty()
+            ? std::string()
+            : "@" + ProcessSpaceyFilename(settings.directiveFile, nullptr);
+    WriteLine(std::cout, {"Checking ", source, " for errors"});
+    switch (RunCobolCompiler(directives, compileName)) {
+        case CompilerResult::NotStarted:
+            WriteLine(std::cout, {"Error : Unable to create cobol compiler process"});
+            return false;
+        case CompilerResult::NotReturned:
+            WriteLine(std::cout, {"Error : Failed to return from COBOL compiler execution"});
+            return false;
+        case CompilerResult::NotCompiled:
+            WriteLine(std::cout, {"Error : Failed to compile ", source,
+                                  ".  Please correct the errors and try again."});
+            return false;
+        case CompilerResult::Compiled:
+            break;
+    }
+    std::cout << "\n";
+    return true;
+}
+
+/// Deletes the temporary copy and what the compiler wrote; a file that cannot be deleted stays.
+void DeleteByProducts(const FileNames& names) {
+    std::string stem = names.dictionary;
+    if (!names.temporaryCopy.empty()) {
+        ::unlink(names.temporaryCopy.c_str());
+        stem = names.temporaryCopy;
+    }
+    stem.resize(stem.rfind('.') + 1);
+    for (const char* ending : {"idy", "xml", "int"}) {
+        ::unlink((stem + ending).c_str());
+    }
+}
+
+/// The outputs of one run and the settings that all of them share.
+class CKTOutputs {
+public:
+    CKTOutputs(CKTXMLGenerator& generator, const Settings& settings, const FileNames& names)
+        : m_Generator(generator),
+          m_Settings(settings),
+          m_Names(names),
+          m_sSource(names.base + ".xml") {}
+
+    /// Writes one output, asking first when its file exists.
+    void Write(const std::string& name, CKTXMLGenerator::FILE_TYPE type,
+               const std::string& prefix) {
+        const bool prompt = m_Settings.promptForOverwrite;
+        if (!(FileExists(name, prompt) && prompt)) {
+            Generate(type, prefix);
+        }
+    }
+
+    /// Writes the mapping file unless one is there and to be kept, and loads it into `mapping`.
+    /// False after a message when it cannot be parsed.
+    bool TakeMapping(CKTXMLCOBOLExternalMapping& mapping) {
+        const std::string& name = m_Settings.mappingName;
+        if (!FileExists(name, m_Settings.promptForOverwrite)) {
+            Generate(CKTXMLGenerator::EXTERNAL_MAPPING, "");
+        }
+        CKTDOMParser parser;
+        if (!parser.ParseFile(name, CKTDOMParser::XML_DOCUMENT, false)) {
+            StopAfterParsing(parser, "Failed to validate ", name);
+            return false;
+        }
+        if (const std::unique_ptr<CKTXMLElement> root = parser.getXMLDocument()) {
+            mapping.Initialize(root.get(), nullptr);
+        }
+        m_Generator.setXMLCOBOLExternalMapping(&mapping);
+        return true;
+    }
+
+private:
+    void Generate(CKTXMLGenerator::FILE_TYPE type, const std::string& prefix) {
+        m_Generator.GenerateFile(m_sSource, m_Settings.mappingName, m_Names.schema,
+                                 m_Names.copybook, type, prefix, m_Settings.countInClauses);
+    }
+
+    CKTXMLGenerator& m_Generator;
+    const Settings& m_Settings;
+    const FileNames& m_Names;
+    std::string m_sSource;
+};
+
+/// Writes the outputs of a compiled source. Returns 0, or 1 when the run ends with a message.
+int WriteOutputs(CKTDOMParser& parser, const Settings& settings, const FileNames& names) {
+    const std::unique_ptr<CKTXMLElement> root = parser.getXMLDocument();
+    parser.ReleaseDocument();
+    CKTXMLCOBOLExternalMapping mapping;
+    CKTXMLGenerator generator;
+    generator.setCOBOLDataDictionary(root.get());
+    generator.setDOMParser(&parser);
+    DeleteByProducts(names);
+    if (!generator.HasRecord()) {
+        const char* missing = generator.HasProgram() ? "record" : "program";
+        return StopWithMessage({"Error : No ", missing, " found in COBOL data dictionary \"",
+                                settings.sourceName, "\""});
+    }
+    CKTOutputs outputs(generator, settings, names);
+    if (!settings.mappingName.empty() && !outputs.TakeMapping(mapping)) {
+        return 1;
+    }
+    outputs.Write(names.schema, CKTXMLGenerator::XML_SCHEMA, "");
+    outputs.Write(names.copybook, CKTXMLGenerator::ENHANCED_COBOL, settings.prefix);
+    return 0;
+}
+
+}  // namespace
+
+int RunCobolToSchema(const Settings& settings) {
+    CKTDOMParser parser;
+    if (settings.sourceName.empty()) {
+        return StopWithMessage({"Error : Failed to specify COBOL filename"});
+    }
+    FileNames names;
+    if (!ChooseNames(settings, names) || !Compile(settings, names)) {
+        return Stop();
+    }
+    if (!parser.ParseFile(names.dictionary, CKTDOMParser::XML_DOCUMENT, false)) {
+        return StopAfterParsing(parser, "Failed to create ", names.schema);
+    }
+    if (WriteOutputs(parser, settings, names) != 0) {
+        return 1;
+    }
+    parser.DisplayErrorSummary();
+    RestoreStreams();
+    return ExitStatus();
+}
