@@ -57,8 +57,7 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementRestriction(const CKTXMLEle
     SetContentKind(item, restriction);
     std::string base;
     if (!findAttrByName(restriction, "base", base)) {
-        ProcessElementFacets(item, restriction);
-        WalkChildren(restriction, level, indent, current);
+        RestrictOwnContent(restriction, level, indent, current);
     } else if (ConvertBuiltIn(item, restriction, base)) {
         ProcessElementFacets(item, restriction);
     } else if (IsOpenType(restriction, base, true)) {
@@ -84,13 +83,33 @@ void CKTCOBOLGenerator::RestrictNamedType(const CKTXMLElement* restriction, CKTX
         if (complexBase && item->m_nContentKind == Item::SIMPLE_CONTENT) {
             TakeBaseValue(item, base);
         }
-        ProcessElementFacets(item, restriction);
-        WalkChildren(restriction, level, indent, current);
+        RestrictOwnContent(restriction, level, indent, current);
         return;
     }
     WalkBaseType(base, name, level, indent, current);
     if (*current == item) {
         ProcessElementFacets(item, restriction);
+    }
+}
+
+/// Takes what a restriction holds itself: an anonymous type that its facets narrow comes first,
+/// then the facets, then the rest.
+void CKTCOBOLGenerator::RestrictOwnContent(const CKTXMLElement* restriction, unsigned level,
+                                           unsigned indent, Item** current) {
+    Item* item = *current;
+    CKTXMLElement* anonymous = FindChild(restriction, GeneratorKind::SimpleType);
+    if (anonymous != nullptr) {
+        getCOBOLFromSchema(anonymous, level, indent, current);
+    }
+    if (*current == item) {
+        ProcessElementFacets(item, restriction);
+    }
+    for (CKTXMLElement* child = restriction->getFirstChildElem();
+         child != nullptr && *current == item && m_Excess == Excess::None;
+         child = child->getNextSibling()) {
+        if (child != anonymous) {
+            getCOBOLFromSchema(child, level, indent, current);
+        }
     }
 }
 

@@ -49,9 +49,9 @@ void ReportWhiteSpace(const CKTCOBOLRecordItem* item, const CKTXMLElement* restr
     }
 }
 
-/// The item that length and digits act on: the one that holds the picture, or is yet to get it.
+/// The item that length and digits act on: the one that holds the picture.
 CKTCOBOLRecordItem* ValueHolder(CKTCOBOLRecordItem* item) {
-    return item->HasValue() || item->m_pValueItem == nullptr ? item : item->m_pValueItem;
+    return item->HasValue() ? item : item->m_pValueItem;
 }
 
 void ApplySize(CKTCOBOLRecordItem* holder, FacetKind kind, const std::string& value) {

@@ -196,6 +196,8 @@ private:
     void RestrictNamedType(const CKTXMLElement* restriction, CKTXMLElement* base,
                            const std::string& name, unsigned level, unsigned indent,
                            Item** current);
+    void RestrictOwnContent(const CKTXMLElement* restriction, unsigned level, unsigned indent,
+                            Item** current);
     void WalkBaseType(CKTXMLElement* type, const std::string& name, unsigned level, unsigned indent,
                       Item** current);
     void TakeBaseValue(Item* item, CKTXMLElement* type);
