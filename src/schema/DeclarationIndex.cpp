@@ -16,8 +16,8 @@ void ForEachDeclaration(const CKTXMLSchemaDoc& doc, Add add) {
     }
 }
 
-}  // namespace
-
+/// The namespace that `e` belongs to: the nearest `targetNamespace` at or above it as written, else
+/// `defaultNamespace`.
 std::string_view NamespaceOf(const CKTXMLElement* e, std::string_view defaultNamespace) {
     for (; e != nullptr; e = e->getParent()) {
         if (const CKTXMLAttribute* attribute = e->getAttribute("targetNamespace")) {
@@ -26,6 +26,8 @@ std::string_view NamespaceOf(const CKTXMLElement* e, std::string_view defaultNam
     }
     return defaultNamespace;
 }
+
+}  // namespace
 
 CKTDeclarationIndex::CKTDeclarationIndex(const CKTXMLSchemaDoc& main,
                                          std::string_view defaultNamespace)

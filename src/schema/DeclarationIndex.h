@@ -34,8 +34,4 @@ private:
     std::unordered_map<std::string, ListMaps> m_NamespaceMaps;
 };
 
-/// The namespace that `e` belongs to: the nearest `targetNamespace` at or above it as written, else
-/// `defaultNamespace`.
-std::string_view NamespaceOf(const CKTXMLElement* e, std::string_view defaultNamespace);
-
 #endif

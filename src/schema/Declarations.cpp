@@ -2,6 +2,7 @@
 
 #include <iostream>
 
+#include "schema/ActiveGuard.h"
 #include "schema/KTCOBOLGenerator.h"
 #include "schema/Occurrence.h"
 #include "support/Console.h"
@@ -192,9 +193,10 @@ bool CKTCOBOLGenerator::elementHasSubGroup(const Item* item) {
         m_bSubstitutionHeadsKnown = true;
         for (const CKTXMLElement* member : m_pDocument->getList(SUBSTITUTION_MEMBERS)) {
             std::string uri;
-            getElementNamespace(member, uri);
             const std::string& head = member->getAttribute("substitutionGroup")->getValue();
-            m_SubstitutionHeads.insert(HeadKey(CKTXMLNode::getNonQualifiedName(head), uri));
+            if (getTypeNamespace(member, head, uri)) {
+                m_SubstitutionHeads.insert(HeadKey(CKTXMLNode::getNonQualifiedName(head), uri));
+            }
         }
     }
     return !m_SubstitutionHeads.empty() &&

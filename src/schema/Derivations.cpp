@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iostream>
 
+#include "schema/ActiveGuard.h"
 #include "schema/KTCOBOLGenerator.h"
 #include "support/Console.h"
 
@@ -157,7 +158,8 @@ void CKTCOBOLGenerator::TakeBaseValue(Item* item, CKTXMLElement* type) {
         if (step == nullptr) {
             return;
         }
-        if (m_nNesting + steps.size() >= kMaxNesting) {
+        if (m_nNesting + steps.size() >= kMaxNesting ||
+            ++m_nElementsVisited > kMaxElementsVisited) {
             m_Excess = Excess::TooComplex;
             return;
         }

@@ -7,12 +7,6 @@
 #include "support/Console.h"
 #include "support/Files.h"
 
-namespace {
-
-constexpr std::uint64_t kMaxElementsVisited = 20'000'000;
-
-}  // namespace
-
 /// Counts how deeply constructs are nested at the moment.
 class CKTCOBOLGenerator::CKTNestingGuard {
 public:
@@ -130,7 +124,9 @@ bool CKTCOBOLGenerator::ConvertHead(CKTXMLElement* head, unsigned level, unsigne
     m_nItemsMade = 0;
     m_nElementsVisited = 0;
     Item* current = nullptr;
+    const unsigned outerNesting = std::exchange(m_nNesting, 0);
     const Item* record = getCOBOLFromSchema(head, level, indent, &current);
+    m_nNesting = outerNesting;
     if (m_Excess == Excess::None) {
         return record != nullptr &&
                CKTCOBOLRecordItem::OutputCOBOLItem(m_pRecord.get(), m_sWriterText, m_bWriterFlag1,

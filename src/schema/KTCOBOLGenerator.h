@@ -5,12 +5,12 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 #include <vector>
 
 #include "cobol/KTCOBOLRecordItem.h"
-#include "schema/ActiveGuard.h"
 #include "schema/DeclarationIndex.h"
 #include "schema/KTXMLSchemaDoc.h"
 #include "schema/SchemaVocabulary.h"
@@ -124,6 +124,12 @@ private:
         }
     };
 
+    /// Where the last search for an attribute began, and what it found.
+    struct FoundAbove {
+        const CKTXMLElement* start = nullptr;
+        const CKTXMLAttribute* attribute = nullptr;
+    };
+
     /// Why the walk of a record was given up.
     enum class Excess { None, TooManyItems, TooComplex };
 
@@ -147,6 +153,7 @@ private:
                                 std::unordered_set<std::string_view>& names) const;
 
     // Type resolution (TypeResolution.cpp)
+    const CKTXMLAttribute* FindAttributeAbove(const CKTXMLElement* e, std::string_view name) const;
     static bool IsSchemaNamespace(std::string_view uri);
     bool IsOpenType(const CKTXMLElement* context, std::string_view qname, bool orListType) const;
     CKTXMLElement* FindType(const CKTXMLElement* context, std::string_view qname);
@@ -207,6 +214,7 @@ private:
     static void ApplyFacet(Item* item, const CKTXMLElement* restriction, const CKTXMLElement* facet,
                            const std::string* value);
 
+    static constexpr std::uint64_t kMaxElementsVisited = 20'000'000;
     static constexpr unsigned kMaxNesting = 10'000;
 
     CKTXMLSchemaDoc* m_pDocument = nullptr;
@@ -215,6 +223,7 @@ private:
     bool m_bWriterFlag2 = false;
 
     std::unique_ptr<CKTDeclarationIndex> m_pIndex;
+    mutable std::unordered_map<std::string, FoundAbove> m_LastFound;
     std::unordered_set<std::string> m_SubstitutionHeads;
     bool m_bSubstitutionHeadsKnown = false;
     std::unordered_set<const CKTXMLElement*> m_ActiveGroups;

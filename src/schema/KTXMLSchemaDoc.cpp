@@ -49,6 +49,23 @@ bool IsCarriedKind(const CKTXMLElement& e) {
     }
 }
 
+/// Gives an included schema without a namespace that of the one that includes it. Within the main
+/// schema it needs none, because the main namespace is where every look-up ends.
+void AdoptNamespace(CKTXMLElement* root, const CKTXMLElement& including) {
+    CKTXMLElement* schema = root->getFirstChildElem();
+    const CKTXMLAttribute* uri = including.getAttribute("targetNamespace");
+    if (schema == nullptr || uri == nullptr || schema->getAttribute("targetNamespace") != nullptr) {
+        return;
+    }
+    for (const char* name : {"targetNamespace", "xmlns"}) {
+        if (schema->getAttribute(name) == nullptr) {
+            auto attribute = std::make_unique<CKTXMLAttribute>(name, uri->getValue());
+            attribute->setParent(schema);
+            schema->addAttribute(std::move(attribute));
+        }
+    }
+}
+
 template <typename Entry>
 void Append(std::vector<Entry>& list, const std::vector<Entry>& more) {
     list.insert(list.end(), more.begin(), more.end());
@@ -153,7 +170,6 @@ CKTXMLSchemaDoc* CKTXMLSchemaDoc::LoadImport(const std::string& fileName, CKTXML
     m_Store.RegisterImport(fileName, doc);
     const CKTSchemaStore::CKTLoadGuard loading(m_Store, fileName);
     doc->PreProcessSchema(root, target);
-    Append(target->m_NamespaceSchemaPairs, doc->m_NamespaceSchemaPairs);
     return doc;
 }
 
@@ -177,6 +193,9 @@ void CKTXMLSchemaDoc::ProcessInclude(const CKTXMLElement* include, CKTXMLSchemaD
     CKTXMLElement* root = m_Store.Load(fileName);
     if (root == nullptr) {
         return;
+    }
+    if (this != target && m_pSchemaElement != nullptr) {
+        AdoptNamespace(root, *m_pSchemaElement);
     }
     const CKTXMLSchemaDoc included(root, target, base, m_Store);
     included.MergeInto(target);
@@ -211,7 +230,6 @@ void CKTXMLSchemaDoc::ProcessRedefine(CKTXMLElement* redefine, CKTXMLSchemaDoc* 
 void CKTXMLSchemaDoc::MergeInto(CKTXMLSchemaDoc* target) const {
     Append(target->m_SchemaElementList, m_SchemaElementList);
     Append(target->m_NamespaceDeclList, m_NamespaceDeclList);
-    Append(target->m_NamespaceSchemaPairs, m_NamespaceSchemaPairs);
 }
 
 bool CKTXMLSchemaDoc::InitializeElementLists() {

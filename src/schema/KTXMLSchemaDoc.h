@@ -30,8 +30,9 @@ enum DeclarationList {
 
 /// One schema, sorted into lists of its global declarations. Building it pulls in the schemas that
 /// it names: declarations of included and redefined ones move into the tree of the main document,
-/// imported ones become documents of their own, reachable by namespace. All trees and documents
-/// belong to the run's store; this object owns its lists only.
+/// imported ones become documents of their own, reachable by namespace from the main document. What
+/// loading creates belongs to the run's store, the main tree to the run; this object owns its lists
+/// only.
 class CKTXMLSchemaDoc {
 public:
     using ElementList = std::vector<CKTXMLElement*>;

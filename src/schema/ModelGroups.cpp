@@ -2,6 +2,7 @@
 
 #include <iostream>
 
+#include "schema/ActiveGuard.h"
 #include "schema/GeneratorState.h"
 #include "schema/KTCOBOLGenerator.h"
 #include "schema/Occurrence.h"

@@ -1,6 +1,7 @@
 #include "schema/SchemaStore.h"
 
 #include <filesystem>
+#include <string_view>
 #include <system_error>
 
 #include "schema/KTXMLSchemaDoc.h"
@@ -9,8 +10,14 @@ namespace {
 
 /// Two names are the same file when this is the same; a location that is no file stands for itself.
 std::string CanonicalName(const std::string& fileName) {
+    std::string_view plain = fileName;
+    for (const std::string_view start : {"file://localhost/", "file:///"}) {
+        if (plain.starts_with(start)) {
+            plain.remove_prefix(start.size() - 1);
+        }
+    }
     std::error_code error;
-    const std::filesystem::path path = std::filesystem::canonical(fileName, error);
+    const std::filesystem::path path = std::filesystem::canonical(plain, error);
     return error ? fileName : path.string();
 }
 

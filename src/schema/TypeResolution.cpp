@@ -111,8 +111,12 @@ bool CKTCOBOLGenerator::getNamespaceURI(const CKTXMLElement* e, std::string_view
     if (attrName.empty()) {
         return false;
     }
-    for (; e != nullptr; e = e->getParent()) {
-        if (const CKTXMLAttribute* attribute = e->getAttribute(attrName)) {
+    if (e != nullptr) {
+        const CKTXMLAttribute* attribute = e->getAttribute(attrName);
+        if (attribute == nullptr) {
+            attribute = FindAttributeAbove(e->getParent(), attrName);
+        }
+        if (attribute != nullptr) {
             uri = attribute->getValue();
             return true;
         }
@@ -129,6 +133,21 @@ bool CKTCOBOLGenerator::getNamespaceURI(const CKTXMLElement* e, std::string_view
         findAttrByName(schema, "targetNamespace", uri);
     }
     return true;
+}
+
+/// Finds the attribute at or above `e`. The answer is remembered, because the declarations of one
+/// parent are asked about one after the other and may lie deep.
+const CKTXMLAttribute* CKTCOBOLGenerator::FindAttributeAbove(const CKTXMLElement* e,
+                                                             std::string_view name) const {
+    FoundAbove& last = m_LastFound[std::string(name)];
+    if (last.start != e) {
+        last.start = e;
+        last.attribute = nullptr;
+        for (; e != nullptr && last.attribute == nullptr; e = e->getParent()) {
+            last.attribute = e->getAttribute(name);
+        }
+    }
+    return last.attribute;
 }
 
 bool CKTCOBOLGenerator::getTypeNamespace(const CKTXMLElement* context, std::string_view qname,
@@ -229,7 +248,11 @@ CKTXMLElement* CKTCOBOLGenerator::findElementByName(const CKTXMLElement* context
     }
     for (const CKTXMLElement* up = context; up != nullptr; up = up->getParent()) {
         if (CKTXMLElement* replaced = m_pDocument->getReplaced(up)) {
-            return up->getAttribute("name")->getValue() == name ? replaced : nullptr;
+            std::string own;
+            getElementNamespace(up, own);
+            const bool same =
+                up->getAttribute("name")->getValue() == name && (uri.empty() || uri == own);
+            return same ? replaced : nullptr;
         }
     }
     return nullptr;

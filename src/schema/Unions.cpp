@@ -3,6 +3,7 @@
 #include <iostream>
 #include <sstream>
 
+#include "schema/ActiveGuard.h"
 #include "schema/KTCOBOLGenerator.h"
 #include "support/Console.h"
 
@@ -47,8 +48,8 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementUnion(const CKTXMLElement* 
         if (member.type == nullptr && !FindUnionMember(unionElement, member)) {
             WriteLine(std::cerr,
                       {"Error : Unable to locate type ", member.name, " for <union> processing"});
-            for (const Item* item : made) {
-                RemoveItem(item);
+            for (auto item = made.rbegin(); item != made.rend(); ++item) {
+                RemoveItem(*item);
             }
             return nullptr;
         }
