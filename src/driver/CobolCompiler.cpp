@@ -29,6 +29,7 @@ std::vector<std::string> CompilerArguments(const std::string& directives,
 /// Replaces the process with the compiler; returns when there is none on the path.
 void Execute(std::vector<std::string> words) {
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words) {
         arguments.push_back(word.data());
     }

@@ -48,8 +48,8 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementUnion(const CKTXMLElement* 
         if (member.type == nullptr && !FindUnionMember(unionElement, member)) {
             WriteLine(std::cerr,
                       {"Error : Unable to locate type ", member.name, " for <union> processing"});
-            for (auto item = made.rbegin(); item != made.rend(); ++item) {
-                RemoveItem(*item);
+            for (; !made.empty(); made.pop_back()) {
+                RemoveItem(made.back());
             }
             return nullptr;
         }
