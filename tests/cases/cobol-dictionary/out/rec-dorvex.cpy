@@ -5,9 +5,10 @@
             "N-DIGITS".
          2 N-FLOAT usage is comp-1 identified by "N-FLOAT".
          2 N-DOUBLE usage is comp-2 identified by "N-DOUBLE".
-         2 N-UPPER pic 9(4) usage is COMP-3 identified by "N-UPPER".
+         2 N-UPPER pic 9(4) usage is COMP identified by "N-UPPER".
          2 N-INDEX usage is index identified by "N-INDEX".
-         2 S-LI pic S9(3) sign is leading identified by "S-LI".
+         2 S-LI pic S9(3) usage is Display sign is leading identified by
+             "S-LI".
          2 S-LS pic S9(3) occurs 5 times sign is leading separate 
             identified by "S-LS".
          2 S-TS pic S9(3)V9 sign is trailing separate identified by 
