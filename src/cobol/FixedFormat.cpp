@@ -20,37 +20,37 @@ constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kCommentStart = "      *   ";
 constexpr std::string_view kContinuationStart = "      -   ";
 
-/// Says whether the literal that `token` begins with is still open after its first `written`
-/// characters. A doubled quotation mark is one character of the literal.
-bool IsLiteralOpen(std::string_view token, std::size_t written) {
+/// How many characters of `token` must be written for the literal that it begins with to be closed:
+/// 0 for a token that is no literal. A doubled quotation mark is one character of the literal.
+std::size_t LiteralEnd(std::string_view token) {
     if (!token.starts_with('"')) {
-        return false;
+        return 0;
     }
-    for (std::size_t i = 1; i < written; ++i) {
+    for (std::size_t i = 1; i < token.size(); ++i) {
         if (token[i] != '"') {
             continue;
         }
         if (i + 1 >= token.size() || token[i + 1] != '"') {
-            return false;
+            return i + 1;
         }
         ++i;
     }
-    return true;
+    return token.size() + 1;
 }
 
-/// Starts the line on which a token that does not fit goes on, or begins. Returns its column.
-int StartLine(std::string& out, std::string_view token, std::size_t written, int indent,
-              bool comment) {
+/// Starts the line on which a token that does not fit begins or, when `continued`, goes on; inside
+/// an open literal with a quotation mark. Returns its column.
+int StartLine(std::string& out, bool continued, bool inLiteral, int indent, bool comment) {
     out += '\n';
     if (comment) {
         out += kCommentStart;
-    } else if (written > 0) {
+    } else if (continued) {
         out += kContinuationStart;
     } else {
         out.append(kContinuation, ' ');
     }
     out.append(static_cast<std::size_t>(indent), ' ');
-    if (written > 0 && IsLiteralOpen(token, written)) {
+    if (continued && inLiteral) {
         out += '"';
         return indent + kContinuation + 1;
     }
@@ -60,13 +60,14 @@ int StartLine(std::string& out, std::string_view token, std::size_t written, int
 void AppendToken(std::string& out, std::string_view token, int indent, int& column, bool comment) {
     indent = std::clamp(indent, 0, kMaxIndent);
     const bool fits = static_cast<int>(token.size()) + column < kFreshEntry;
+    const std::size_t literalEnd = fits ? 0 : LiteralEnd(token);
     std::size_t written = 0;
     while (written < token.size() && token[written] != '\n' && token[written] != '\r') {
         if (!fits && column >= kFreshEntry) {
             column = indent - (comment ? 1 : 0) + kAreaA;
             out.append(static_cast<std::size_t>(column), ' ');
         } else if (!fits) {
-            column = StartLine(out, token, written, indent, comment);
+            column = StartLine(out, written > 0, written < literalEnd, indent, comment);
         }
         const auto room = static_cast<std::size_t>(kLastColumn - column);
         const std::string_view rest = token.substr(written);

@@ -70,6 +70,8 @@ CompilerResult RunCobolCompiler(const std::string& directives, const std::string
     std::cout.flush();
     std::cerr.flush();
     std::fflush(nullptr);
+    // A caller that ignores its children would have the system take ours away before the wait.
+    std::signal(SIGCHLD, SIG_DFL);
     const pid_t child = ::fork();
     if (child < 0) {
         return CompilerResult::NotStarted;

@@ -1,5 +1,6 @@
 #include <unistd.h>
 
+#include <filesystem>
 #include <iostream>
 #include <memory>
 
@@ -42,6 +43,16 @@ bool HasExtension(const std::string& extension, const char* wanted) {
     return my_strnicmp(extension.c_str(), wanted, 4) == 0;
 }
 
+/// Says whether the compiler could overwrite something of the user's by writing `dictionary`: a
+/// file, a link that leads nowhere, or a file that goes by the name without the quotes it is given
+/// in.
+bool IsTaken(const std::string& dictionary) {
+    std::error_code error;
+    return FileExists(dictionary, false) ||
+           std::filesystem::is_symlink(std::filesystem::symlink_status(dictionary, error)) ||
+           dictionary.find('"') != std::string::npos;
+}
+
 /// Splits the source and chooses what is compiled: a copybook is always compiled as a copy of its
 /// own, a program only when the dictionary would overwrite a file of the user's. False after a
 /// message.
@@ -59,7 +70,7 @@ bool ChooseNames(const Settings& settings, FileNames& names) {
         return false;
     }
     names.dictionary = names.base + ".xml";
-    if (!program || FileExists(names.dictionary, false)) {
+    if (!program || IsTaken(names.dictionary)) {
         const std::string stem = GetTemporaryFilename(".xml .cbl");
         if (stem.empty()) {
             return false;

@@ -40,7 +40,8 @@ bool CKTCOBOLGenerator::GenerateFile(const std::string& outputName, const std::s
         getCOBOLFromSchema(schema, 1, 7, &current);
         std::cerr << "\n";
     }
-    if (!file.Close()) {
+    // A record that went to a silenced console is lost, and nothing else says so.
+    if (!file.Close() || (!toFile && IsQuiet())) {
         ReportUnwritableOutput(outputName);
     }
     return toFile;

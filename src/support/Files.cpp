@@ -178,7 +178,7 @@ CKTOutputFile::~CKTOutputFile() {
 
 bool CKTOutputFile::Close() {
     std::cout.flush();
-    bool written = std::cout.good();
+    bool written = std::cout.good() || std::cout.rdbuf() == nullptr;
     if (m_bRedirected) {
         std::cout.rdbuf(m_pSavedBuffer);
         std::cerr.tie(m_pSavedTie);

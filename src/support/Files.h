@@ -39,7 +39,7 @@ public:
     [[nodiscard]] bool IsOpen() const { return m_bRedirected; }
 
     /// Gives standard output back and closes the file. Returns whether everything was written, to
-    /// the file or, when it is not open, to the console.
+    /// the file or, when it is not open, to the console. A silenced console counts as written.
     bool Close();
 
 private:

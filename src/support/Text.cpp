@@ -140,13 +140,14 @@ long long ReadInteger(std::string_view text) {
     if (negative || text.starts_with('+')) {
         text.remove_prefix(1);
     }
-    constexpr long long kLimit = (std::numeric_limits<long long>::max() - 9) / 10;
+    constexpr long long kMax = std::numeric_limits<long long>::max();
     long long value = 0;
     for (const char c : text) {
         if (c < '0' || c > '9') {
             break;
         }
-        value = value >= kLimit ? kLimit * 10 : value * 10 + (c - '0');
+        const int digit = c - '0';
+        value = value > (kMax - digit) / 10 ? kMax : value * 10 + digit;
     }
     return negative ? -value : value;
 }

@@ -19,6 +19,14 @@ bool NeedsNoEscape(const std::string& text) {
     });
 }
 
+/// XML 1.0 has no way to write most control characters; they become question marks.
+std::string WithoutControls(std::string text) {
+    std::replace_if(
+        text.begin(), text.end(),
+        [](char c) { return c >= 0 && c < ' ' && c != '\t' && c != '\n' && c != '\r'; }, '?');
+    return text;
+}
+
 }  // namespace
 
 CKTDOMFormatTarget::CKTDOMFormatTarget() : m_pSavedBuffer(std::cout.rdbuf()) {}
@@ -74,7 +82,7 @@ void CKTMarkup::AddAttribute(const char* name, const std::string& value) {
         Add("\"");
     } else {
         Flush();
-        writeAttr(m_Formatter, name, value.c_str());
+        writeAttr(m_Formatter, name, WithoutControls(value).c_str());
     }
 }
 
@@ -83,7 +91,8 @@ void CKTMarkup::AddContent(const std::string& text) {
         Add(text);
     } else {
         Flush();
-        m_Formatter << XMLFormatter::CharEscapes << text.c_str() << XMLFormatter::NoEscapes;
+        m_Formatter << XMLFormatter::CharEscapes << WithoutControls(text).c_str()
+                    << XMLFormatter::NoEscapes;
     }
 }
 

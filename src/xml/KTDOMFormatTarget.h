@@ -54,12 +54,14 @@ public:
     /// Adds "<" and `name` after `indent` spaces; the caller ends the tag.
     void AddTag(std::string_view name, unsigned indent);
 
-    /// Adds a space and `name="value"` with attribute escaping.
+    /// Adds a space and `name="value"` with attribute escaping. A control character that XML cannot
+    /// hold becomes a question mark, here and in content.
     void AddAttribute(const char* name, const std::string& value);
 
     /// Adds element content, escaped so that it reads back as it is.
     void AddContent(const std::string& text);
 
+    /// Writes what was collected so far.
     void Flush();
 
 private:

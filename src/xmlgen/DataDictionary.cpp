@@ -106,6 +106,25 @@ DictionaryRecord FindDictionaryRecord(const CKTXMLElement* root) {
     return found;
 }
 
+// With a stack of its own, because containers may be nested without bound.
+void ForEachMember(const CKTXMLElement* e, const std::function<void(const CKTXMLElement*)>& visit) {
+    std::vector<const CKTXMLElement*> pending = {e->getFirstChildElem()};
+    while (!pending.empty()) {
+        const CKTXMLElement* child = pending.back();
+        if (child == nullptr) {
+            pending.pop_back();
+            continue;
+        }
+        pending.back() = child->getNextSibling();
+        const DictionaryKind kind = DictionaryKindOf(child);
+        if (IsContainer(kind) && kind != DictionaryKind::Program) {
+            pending.push_back(child->getFirstChildElem());
+        } else {
+            visit(child);
+        }
+    }
+}
+
 std::string_view AttributeOf(const CKTXMLElement* e, std::string_view name) {
     const CKTXMLAttribute* attribute = e->getAttribute(name);
     return attribute == nullptr ? std::string_view() : attribute->getValue();

@@ -1,6 +1,7 @@
 #ifndef DORVEX_XMLGEN_DATADICTIONARY_H
 #define DORVEX_XMLGEN_DATADICTIONARY_H
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -53,6 +54,10 @@ bool IsCondition(DictionaryKind kind);
 /// Finds the record below the root of a parsed dictionary. The document element is the program
 /// itself or a wrapper around programs.
 DictionaryRecord FindDictionaryRecord(const CKTXMLElement* root);
+
+/// Calls `visit` with each child element of `e` in order; in place of a section container that
+/// stands there, with the children of that one.
+void ForEachMember(const CKTXMLElement* e, const std::function<void(const CKTXMLElement*)>& visit);
 
 /// The value of an attribute; empty when it is absent.
 std::string_view AttributeOf(const CKTXMLElement* e, std::string_view name);

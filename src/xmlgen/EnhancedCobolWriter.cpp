@@ -2,6 +2,7 @@
 
 #include <array>
 #include <iostream>
+#include <sstream>
 
 #include "cobol/KTCOBOLRecordItem.h"
 #include "support/Console.h"
@@ -33,9 +34,11 @@ void ReportRedefinition(const CKTXMLElement* item) {
 }
 
 void ReportRenaming(const CKTXMLElement* item) {
-    const bool range =
-        AttributeOf(item, "renames").find_first_of(" \t\r\n") != std::string_view::npos ||
-        item->getAttribute("through") != nullptr || item->getAttribute("to") != nullptr;
+    std::istringstream words{std::string(AttributeOf(item, "renames"))};
+    std::string first;
+    std::string second;
+    const bool range = (words >> first >> second) || item->getAttribute("through") != nullptr ||
+                       item->getAttribute("to") != nullptr;
     WriteLine(std::cerr, {"Warning : This version of DORVEX does not support the RENAMES clause",
                           range ? " for ranges" : ""});
 }
@@ -105,6 +108,9 @@ std::string BeginLine(const CKTXMLElement* item, int level, const std::string& n
 
 /// Writes `e` with `level` and what is below it. Returns whether something was written.
 bool CKTXMLGenerator::getEnhancedCOBOLFromDataDict(const CKTXMLElement* e, int level) {
+    if (e == nullptr) {
+        return false;
+    }
     const DictionaryKind kind = DictionaryKindOf(e);
     if (IsCondition(kind)) {
         std::string line = BeginLine(e, level, "88");
@@ -130,10 +136,8 @@ bool CKTXMLGenerator::getEnhancedCOBOLFromDataDict(const CKTXMLElement* e, int l
         return false;
     }
     CKTCOBOLRecordItem::OutputFixedFormatCOBOL(BuildItemLine(e, level).c_str(), std::cout);
-    for (const CKTXMLElement* child = e->getFirstChildElem(); child != nullptr;
-         child = child->getNextSibling()) {
-        getEnhancedCOBOLFromDataDict(child, level + 1);
-    }
+    ForEachMember(
+        e, [&](const CKTXMLElement* child) { getEnhancedCOBOLFromDataDict(child, level + 1); });
     return true;
 }
 

@@ -88,12 +88,10 @@ bool CKTXMLGenerator::ApplyExternalMappingFile(const CKTXMLElement* item,
                                                std::string* xmlName, std::string* xmlType,
                                                std::string* xmlNamespace, bool* isAttribute,
                                                bool* countIn, int index) const {
-    const std::string name =
-        item == nullptr || mapping == nullptr ? std::string() : getQualifiedNameAttr(item);
-    if (name.empty()) {
+    if (item == nullptr || mapping == nullptr || AttributeOf(item, "name").empty()) {
         return false;
     }
-    const CKTXMLCOBOLMapping* entry = mapping->findMapping(name, index);
+    const CKTXMLCOBOLMapping* entry = mapping->findMapping(getQualifiedNameAttr(item), index);
     if (entry == nullptr) {
         return true;
     }
@@ -144,20 +142,10 @@ bool CKTXMLGenerator::GenerateFile(const std::string& dataDictFile, const std::s
     m_sDataDictFile = dataDictFile;
     m_sPrefix = text;
     m_bCountIn = countIn;
-    std::string name;
-    switch (type) {
-        case EXTERNAL_MAPPING:
-            name = mappingFile;
-            break;
-        case XML_SCHEMA:
-            name = schemaFile;
-            break;
-        case ENHANCED_COBOL:
-            name = cobolFile;
-            break;
-        default:
-            break;
-    }
+    const std::string name = type == EXTERNAL_MAPPING ? mappingFile
+                             : type == XML_SCHEMA     ? schemaFile
+                             : type == ENHANCED_COBOL ? cobolFile
+                                                      : std::string();
     CKTOutputFile file(name);
     const bool toFile = file.IsOpen();
     if (name.empty()) {
@@ -218,7 +206,7 @@ bool CKTXMLGenerator::getXMLFromDataDict(const CKTXMLElement* e, unsigned indent
     unsigned childIndent = indent;
     if (IsCondition(kind)) {
         flags.descend = true;
-    } else if (kind == DictionaryKind::Program || IsConstant(kind) || IsRange(kind) ||
+    } else if (e == m_Found.program || IsConstant(kind) || IsRange(kind) ||
                (IsDataItem(kind) && level <= CKTCOBOLRecordItem::kMaxLevel)) {
         childIndent = (this->*writer)(e, indent, level, flags);
     }
@@ -226,24 +214,18 @@ bool CKTXMLGenerator::getXMLFromDataDict(const CKTXMLElement* e, unsigned indent
         if (flags.open) {
             m_pMarkup->Add(">\n");
         }
-        if (flags.descend && kind == DictionaryKind::Program) {
+        if (flags.descend && e == m_Found.program) {
             getXMLFromDataDict(m_Found.record, childIndent, level + 1, writer);
         } else if (flags.descend) {
-            VisitChildren(e, childIndent, level + 1, writer);
+            ForEachMember(e, [&](const CKTXMLElement* child) {
+                getXMLFromDataDict(child, childIndent, level + 1, writer);
+            });
         }
     }
     if (flags.open) {
         (this->*writer)(e, indent, level, flags);
     }
     return flags.descend;
-}
-
-void CKTXMLGenerator::VisitChildren(const CKTXMLElement* e, unsigned indent, int level,
-                                    Writer writer) {
-    for (const CKTXMLElement* child = e->getFirstChildElem(); child != nullptr;
-         child = child->getNextSibling()) {
-        getXMLFromDataDict(child, indent, level, writer);
-    }
 }
 
 void CKTXMLGenerator::WriteLine(unsigned indent, std::string_view text) {

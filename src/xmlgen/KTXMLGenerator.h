@@ -102,7 +102,6 @@ private:
 
     // Traversal (KTXMLGenerator.cpp)
     bool getXMLFromDataDict(const CKTXMLElement* e, unsigned indent, int level, Writer writer);
-    void VisitChildren(const CKTXMLElement* e, unsigned indent, int level, Writer writer);
     [[nodiscard]] bool CanWrite() const;
     void WriteOutput(FILE_TYPE type);
     XmlItem Describe(const CKTXMLElement* item) const;

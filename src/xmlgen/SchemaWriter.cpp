@@ -237,14 +237,13 @@ unsigned CKTXMLGenerator::WriteGroup(const CKTXMLElement* item, unsigned indent,
 void CKTXMLGenerator::WriteMappedMembers(const CKTXMLElement* group, unsigned indent, int level) {
     std::vector<const CKTXMLElement*> attributes;
     bool begun = false;
-    for (const CKTXMLElement* child = group->getFirstChildElem(); child != nullptr;
-         child = child->getNextSibling()) {
+    ForEachMember(group, [&](const CKTXMLElement* child) {
         bool isAttribute = false;
         ApplyExternalMappingFile(child, m_pMapping, nullptr, nullptr, nullptr, &isAttribute,
                                  nullptr, 0);
         if (isAttribute) {
             attributes.push_back(child);
-            continue;
+            return;
         }
         if (!begun) {
             WriteLine(indent + 6, "<sequence>");
@@ -252,7 +251,7 @@ void CKTXMLGenerator::WriteMappedMembers(const CKTXMLElement* group, unsigned in
         }
         getXMLFromDataDict(child, indent + 9, level + 1,
                            &CKTXMLGenerator::OutputXMLSchemaFileElement);
-    }
+    });
     if (begun) {
         WriteLine(indent + 6, "</sequence>");
     }
@@ -299,7 +298,8 @@ const CKTXMLGenerator::Enumeration& CKTXMLGenerator::EnumerationOf(const CKTXMLE
         enumeration.hasRange = enumeration.hasRange || BeginsWithRange(condition);
         for (const CKTXMLElement* value = condition->getFirstChildElem(); value != nullptr;
              value = value->getNextSibling()) {
-            if (IsConstant(DictionaryKindOf(value)) && value->getAttribute("value") != nullptr) {
+            if (IsConstant(DictionaryKindOf(value)) && value->getAttribute("value") != nullptr &&
+                !IsRedefinition(value)) {
                 enumeration.last = value;
                 if (enumeration.first == nullptr) {
                     enumeration.first = value;

@@ -1,0 +1,1 @@
+       ID DIVISION.
