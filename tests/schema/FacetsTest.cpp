@@ -1,0 +1,161 @@
+#include <iostream>
+#include <memory>
+#include <sstream>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "../support/RedirectedStream.h"
+#include "SchemaTree.h"
+#include "schema/KTCOBOLGenerator.h"
+
+namespace {
+
+using Item = CKTCOBOLRecordItem;
+
+std::unique_ptr<Item> MakeItem(int level, const char* name, const char* size = "",
+                               const char* value = "") {
+    auto item = std::make_unique<Item>();
+    item->m_nLevel = level;
+    item->m_nDepth = 8;
+    item->m_sMinOccurs = "1";
+    item->m_sDataName = name;
+    item->m_sPicType = level == 88 ? "" : "X";
+    item->m_sPicLength = size;
+    item->m_sValue = value;
+    return item;
+}
+
+// The facets are blank-separated; one without "=" has no value.
+void AddFacets(CKTXMLElement* restriction, const char* facets) {
+    std::istringstream list(facets);
+    for (std::string facet; list >> facet;) {
+        const std::size_t end = facet.find('=');
+        CKTXMLElement* e = Add(restriction, "xs:" + facet.substr(0, end));
+        if (end != std::string::npos) {
+            e->addAttribute(std::make_unique<CKTXMLAttribute>("value", facet.substr(end + 1)));
+        }
+    }
+}
+
+std::string Apply(Item* item, const char* facets, const Attributes& attributes = {}) {
+    CKTXMLElement root;
+    CKTXMLElement* restriction = Add(&root, "xs:restriction", attributes);
+    AddFacets(restriction, facets);
+    const RedirectedStream errors(std::cerr);
+    CKTCOBOLGenerator().ProcessElementFacets(item, restriction);
+    return errors.Text();
+}
+
+std::string Shown(const Item& item) {
+    std::string text = item.m_sPicType + "(" + item.m_sPicLength + ")" +
+                       std::to_string(item.m_nDigits) + "," + item.m_sFractionDigits;
+    for (const auto& child : item.m_Children) {
+        text += "; " + std::to_string(child->m_nLevel) + "/" + std::to_string(child->m_nDepth) +
+                " " + child->m_sDataName + " " +
+                (child->IsCondition() ? child->m_sValue : Shown(*child));
+    }
+    return text;
+}
+
+TEST(Facets, LengthsAndDigitsActInDocumentOrder) {
+    const char* const rows[][3] = {
+        {"", "length=10 maxLength=5", "X(5)-1,"},
+        {"", "length=10 minLength=3", "X(10)-1,"},
+        {"", "length=10 minLength=12", "X(12)-1,"},
+        {"", "minLength=7", "X(7)-1,"},
+        {"", "minLength=many", "X(many)-1,"},
+        {"08", "minLength=8", "X(08)-1,"},
+        {"08", "minLength=+9x", "X(+9x)-1,"},
+        {"9x", "minLength=10", "X(10)-1,"},
+        {"5", "minLength=many minLength=-6", "X(5)-1,"},
+        {"5", "maxLength=100", "X(100)-1,"},
+        {"5", "length=", "X()-1,"},
+        {"5", "totalDigits=5x fractionDigits=2x", "X(5)5,2x"},
+        {"5", "totalDigits=+12", "X(5)12,"},
+        {"5", "totalDigits=x5", "X(5)0,"},
+        {"5", "length minLength maxLength totalDigits fractionDigits Length=9", "X(5)-1,"},
+    };
+    for (const auto& [size, facets, expected] : rows) {
+        const auto item = MakeItem(2, "code", size);
+        EXPECT_EQ(Apply(item.get(), facets), "");
+        EXPECT_EQ(Shown(*item), expected) << facets;
+    }
+}
+
+TEST(Facets, ThoseThatCobolCannotExpressAreWarnedAboutEvenWithoutAValue) {
+    const std::string start = "Warning : This version of DORVEX does not support the ";
+    const auto item = MakeItem(2, "a-b");
+    for (const std::string name : {"a-b", "a_b"}) {
+        item->m_sXMLName = name == "a-b" ? "" : name;
+        const std::string end = " facet for the element " + name + "\n";
+        EXPECT_EQ(Apply(item.get(),
+                        "pattern maxInclusive=9 maxExclusive minInclusive=1 "
+                        "minExclusive=one whiteSpace=collapse"),
+                  start + "<pattern> element facet for element " + name + "\n" + start +
+                      "maxInclusive" + end + start + "maxExclusive" + end + start + "minInclusive" +
+                      end + start + "minExclusive" + end);
+    }
+    EXPECT_EQ(Shown(*item), "X()-1,");
+}
+
+TEST(Facets, WhiteSpaceIsExplainedByTheValueOfTheRestriction) {
+    const char* const rows[][2] = {
+        {"preserve",
+         "No normalization is done, the value is not changed (this is the behavior required by  "
+         "[XML 1.0 (Second Edition)] for element content)"},
+        {"replace",
+         "All occurrences of #x9 (tab), #xA (line feed) and #xD (carriage return) are replaced "
+         "with #x20 (space)"},
+        {"collapse",
+         "After the processing implied by replace, contiguous sequences of #x20's are collapsed "
+         "to a  single #x20, and leading and trailing #x20's are removed"},
+        {"Collapse", ""},
+        {"", ""},
+    };
+    for (const auto& [value, explanation] : rows) {
+        const auto item = MakeItem(2, "code");
+        EXPECT_EQ(Apply(item.get(), "whiteSpace=replace", {{"value", value}}),
+                  std::string("Warning : Whitespace facet encountered Warning : Whitespace facet "
+                              "encountered for element code - ") +
+                      explanation + "\n");
+    }
+}
+
+TEST(Facets, EnumerationsReplaceInheritedConditionsAndMayMoveTheValue) {
+    const char* const rows[][2] = {
+        {"enumeration=A enumeration=B enumeration=A enumeration=C",
+         "()-1,; 2/8 part X(4)-1,; 88/9 enumerator-1 A; 88/9 enumerator-2 B; 88/9 enumerator-4 C; "
+         "3/9 code-value X(6)7,2"},
+        {"enumeration=A enumeration", "X(6)7,2; 2/8 part X(4)-1,; 88/9 enumerator-1 A"},
+        {"enumeration=A annotation", "X(6)7,2; 2/8 part X(4)-1,; 88/9 enumerator-1 A"},
+        {"enumeration", "X(6)7,2; 88/8 old A; 2/8 part X(4)-1,"},
+    };
+    for (const auto& [facets, expected] : rows) {
+        const auto item = MakeItem(2, "code", "6");
+        item->m_nDigits = 7;
+        item->m_sFractionDigits = "2";
+        item->AddChild(MakeItem(88, "old", "", "A"));
+        item->AddChild(MakeItem(2, "part", "4", "A"));
+        EXPECT_EQ(Apply(item.get(), facets), "");
+        EXPECT_EQ(Shown(*item), expected) << facets;
+    }
+}
+
+TEST(Facets, WithoutARestrictionTheSourceElementHoldsThem) {
+    CKTXMLElement root;
+    CKTXMLElement* type = Add(&root, "xs:simpleType");
+    AddFacets(type, "length=3 enumeration=A enumeration=B any=");
+    const auto item = MakeItem(2, "code");
+    item->AddChild(MakeItem(88, "old", "", "A"));
+    CKTCOBOLGenerator generator;
+    generator.ProcessElementFacets(nullptr, type);
+    generator.ProcessElementFacets(item.get(), nullptr);
+    EXPECT_EQ(Shown(*item), "X()-1,; 88/8 old A");
+    // Only a restriction replaces what was inherited, so the first value is a duplicate.
+    item->m_pSourceElement = type;
+    generator.ProcessElementFacets(item.get(), nullptr);
+    EXPECT_EQ(Shown(*item), "X(3)-1,; 88/8 old A; 88/9 enumerator-1 B");
+}
+
+}  // namespace
