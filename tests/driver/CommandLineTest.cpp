@@ -1,0 +1,53 @@
+#include "driver/CommandLine.h"
+
+#include <clocale>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "../support/RedirectedStream.h"
+
+namespace {
+
+TEST(CommandLine, AnOptionTakesTheRestOfItsArgumentOrTheNextOne) {
+    ASSERT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
+    const std::string incomplete = "Error : Ignoring incomplete command-line option \"-c\"\n";
+    const std::string unconvertible = "Error : Unable to convert multibyte character to Unicode\n";
+    const struct {
+        std::vector<std::string> arguments;
+        std::string value;
+        int index;
+        std::string output;
+        std::string errors;
+    } rows[] = {
+        {{"dorvex", "-Cout.cpy", "a.cbl"}, "out.cpy", 1, "", ""},
+        {{"dorvex", "-c", "-log", "a.cbl"}, "-log", 2, "", ""},
+        {{"dorvex", "-C", ""}, "", 2, "", ""},
+        {{"dorvex", "-c"}, "old", 2, incomplete, ""},
+        {{"dorvex", "-C\xc3\xa9t\xc3\xa9.cpy"}, "\xc3\xa9t\xc3\xa9.cpy", 1, "", ""},
+        {{"dorvex", "-c", "\xff.cpy"}, "\xff.cpy", 2, "", ""},
+        {{"dorvex", "-c\xff", "a.cbl"}, "old", 1, "", unconvertible},
+    };
+    for (auto row : rows) {
+        std::string value = "old";
+        std::vector<char*> argv;
+        for (std::string& argument : row.arguments) {
+            argv.push_back(argument.data());
+        }
+        const RedirectedStream output(std::cout);
+        const RedirectedStream errors(std::cerr);
+        const int before = m_nErrorCount;
+        EXPECT_EQ(
+            ProcessCmdLineNameValue(static_cast<int>(argv.size()), argv.data(), 1, "-C", value),
+            row.index)
+            << row.arguments[1];
+        EXPECT_EQ(value, row.value) << row.arguments[1];
+        EXPECT_EQ(output.Text(), row.output) << row.arguments[1];
+        EXPECT_EQ(errors.Text(), row.errors) << row.arguments[1];
+        EXPECT_EQ(m_nErrorCount - before, row.output.empty() && row.errors.empty() ? 0 : 1);
+    }
+}
+
+}  // namespace
