@@ -168,9 +168,9 @@ TEST(RecordItem, LaterNamesakesAreNumbered) {
 }
 
 // Few names and many levels, some items that cannot be written among them.
-std::unique_ptr<Item> MakeRecord(unsigned seed) {
+std::unique_ptr<Item> MakeRecord(unsigned number) {
     static const char* const kNames[] = {"A", "B", "A-1", "B-1", "A-1-1", "C"};
-    std::mt19937 next(seed);
+    std::mt19937 next(number);
     auto top = MakeItem(1, "A");
     std::vector<Item*> items = {top.get()};
     for (int i = 0; i < 120; ++i) {
@@ -200,11 +200,11 @@ void RenameByTheSearch(Item* top, Item* item) {
 
 TEST(RecordItem, NumbersAreThoseOfTheSearchForAnEarlierNamesake) {
     const RedirectedStream errors(std::cerr);
-    for (unsigned seed = 1; seed <= 20; ++seed) {
-        const auto searched = MakeRecord(seed);
+    for (unsigned number = 1; number <= 20; ++number) {
+        const auto searched = MakeRecord(number);
         RenameByTheSearch(searched.get(), searched.get());
-        const auto given = MakeRecord(seed);
-        EXPECT_EQ(Written(given.get(), "", true), Written(searched.get(), "", false)) << seed;
+        const auto given = MakeRecord(number);
+        EXPECT_EQ(Written(given.get(), "", true), Written(searched.get(), "", false)) << number;
     }
 }
 
