@@ -1,0 +1,85 @@
+#ifndef DORVEX_KCOMP_DATAITEM_H
+#define DORVEX_KCOMP_DATAITEM_H
+
+#include <deque>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "kcomp/Picture.h"
+#include "kcomp/Report.h"
+
+constexpr int kRenamesLevel = 66;
+constexpr int kLoneLevel = 77;
+constexpr int kConstantLevel = 78;
+constexpr int kConditionLevel = 88;
+constexpr int kHighestLevel = 49;
+
+enum class Usage {
+    None,  ///< no clause
+    Display,
+    Comp1,
+    Comp2,
+    Comp3,
+    Comp4,
+    Comp5,
+    Index,
+    Pointer,
+    National
+};
+
+enum class SignPosition { None, Leading, LeadingSeparate, Trailing, TrailingSeparate };
+
+/// A value, or a range when `through` is not empty; both as the dictionary holds them.
+struct ItemValue {
+    std::string value;
+    std::string through;
+};
+
+/// One data description entry, and what stands below it. Texts are empty and flags false where
+/// the entry has no such clause.
+struct DataItem {
+    int level = 0;
+    std::string name;  ///< empty for FILLER
+    SourcePlace place;
+    std::string picture;
+    Usage usage = Usage::None;
+    std::size_t binaryDigits = 0;  ///< of a binary type that has a size of its own: its digits
+    SignPosition sign = SignPosition::None;
+    bool justified = false;
+    bool blankWhenZero = false;
+    std::string minOccurs;
+    std::string maxOccurs;
+    std::string odo;
+    std::string redefines;
+    std::string renames;         ///< of level 66: the first item, with its qualifiers
+    std::string renamesThrough;  ///< the last one
+    std::vector<ItemValue> values;
+    /// Clauses that go into the dictionary as they are: attribute and text.
+    std::vector<std::pair<std::string, std::string>> notes;
+
+    DataItem* parent = nullptr;
+    std::vector<std::unique_ptr<DataItem>> children;  ///< condition-names among them
+
+    // What the clauses mean together; set once the record is complete.
+    bool isGroup = false;
+    Category category = Category::Alphanumeric;
+    Picture description;      ///< length, digits and decimals
+    std::size_t offset = 0;   ///< in bytes from the record's first
+    std::size_t storage = 0;  ///< in bytes, of all occurrences
+};
+
+/// The records of one FD or SD, or the items of WORKING-STORAGE.
+struct RecordArea {
+    bool isFile = false;
+    std::string name;  ///< of the file
+    std::vector<std::unique_ptr<DataItem>> items;
+};
+
+struct ProgramData {
+    std::string name;
+    std::deque<RecordArea> areas;  ///< in the order of the source
+};
+
+#endif

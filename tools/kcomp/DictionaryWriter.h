@@ -1,0 +1,13 @@
+#ifndef DORVEX_KCOMP_DICTIONARYWRITER_H
+#define DORVEX_KCOMP_DICTIONARYWRITER_H
+
+#include <deque>
+#include <string>
+
+#include "kcomp/DataItem.h"
+
+/// The data dictionary of the programs as an XML document. It is in UTF-8 when all names and
+/// values are, otherwise in ISO-8859-1, and says which.
+std::string DictionaryOf(const std::deque<ProgramData>& programs);
+
+#endif

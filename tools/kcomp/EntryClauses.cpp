@@ -1,0 +1,256 @@
+// The clauses of a data description entry.
+#include <algorithm>
+#include <array>
+
+#include "kcomp/EntryReader.h"
+#include "kcomp/Text.h"
+
+namespace {
+
+struct UsageWord {
+    Usage usage;
+    std::string_view picture;  // of a type that has a size of its own, without its S
+    std::size_t digits;        // of such a type
+};
+
+const UsageWord* UsageOf(std::string_view word) {
+    static const std::unordered_map<std::string, UsageWord> usages = {
+        {"BINARY", {Usage::Comp4, "", 0}},
+        {"BINARY-CHAR", {Usage::Comp5, "9(2)", 3}},
+        {"BINARY-DOUBLE", {Usage::Comp5, "9(18)", 19}},
+        {"BINARY-LONG", {Usage::Comp5, "9(9)", 10}},
+        {"BINARY-LONG-LONG", {Usage::Comp5, "9(18)", 19}},
+        {"BINARY-SHORT", {Usage::Comp5, "9(4)", 5}},
+        {"COMP", {Usage::Comp4, "", 0}},
+        {"COMP-1", {Usage::Comp1, "", 0}},
+        {"COMP-2", {Usage::Comp2, "", 0}},
+        {"COMP-3", {Usage::Comp3, "", 0}},
+        {"COMP-4", {Usage::Comp4, "", 0}},
+        {"COMP-5", {Usage::Comp5, "", 0}},
+        {"DISPLAY", {Usage::Display, "", 0}},
+        {"FLOAT-LONG", {Usage::Comp2, "", 0}},
+        {"FLOAT-SHORT", {Usage::Comp1, "", 0}},
+        {"INDEX", {Usage::Index, "", 0}},
+        {"NATIONAL", {Usage::National, "", 0}},
+        {"PACKED-DECIMAL", {Usage::Comp3, "", 0}},
+        {"POINTER", {Usage::Pointer, "", 0}},
+    };
+    constexpr std::string_view kLong = "COMPUTATIONAL";
+    std::string upper = ToUpper(word);
+    if (upper.starts_with(kLong)) {
+        upper.replace(0, kLong.size(), "COMP");
+    }
+    const auto found = usages.find(upper);
+    return found == usages.end() ? nullptr : &found->second;
+}
+
+}  // namespace
+
+bool CKTEntryReader::IsUsageWord(std::string_view word) {
+    return UsageOf(word) != nullptr;
+}
+
+void CKTEntryReader::ReadAttribute() {
+    m_pItem->notes.emplace_back("attribute", "true");
+}
+
+void CKTEntryReader::ReadBlank() {
+    Skip("WHEN");
+    if (!Skip("ZERO") && !Skip("ZEROS") && !Skip("ZEROES")) {
+        Fail("BLANK WHEN ZERO is not complete");
+    }
+    m_pItem->blankWhenZero = true;
+}
+
+void CKTEntryReader::ReadConstant() {
+    Skip("IS");
+    Skip("GLOBAL");
+    Skip("AS");
+    m_pItem->values.push_back({TakeValue(), ""});
+}
+
+void CKTEntryReader::ReadCountIn() {
+    Skip("IN");
+    m_pItem->notes.emplace_back("countIn", TakeName());
+}
+
+void CKTEntryReader::ReadDepending() {
+    Skip("ON");
+    m_pItem->odo = TakeQualifiedName();
+}
+
+void CKTEntryReader::ReadExternal() {
+    Skip("AS");
+    const bool named = m_nAt < m_Words.size() && m_Words[m_nAt].kind == WordKind::Literal;
+    m_pItem->notes.emplace_back("external", named ? TakeLiteralText() : "true");
+}
+
+// [WHEN SET TO] FALSE [IS] value, of a condition-name.
+void CKTEntryReader::ReadFalse() {
+    Skip("SET");
+    Skip("TO");
+    Skip("FALSE");
+    Skip("IS");
+    m_pItem->notes.emplace_back("falseValue", TakeValue());
+}
+
+void CKTEntryReader::ReadIdentified() {
+    Skip("BY");
+    const bool literal = m_nAt < m_Words.size() && m_Words[m_nAt].kind == WordKind::Literal;
+    m_pItem->notes.emplace_back("identifiedBy", literal ? TakeLiteralText() : TakeName());
+}
+
+void CKTEntryReader::ReadIndexed() {
+    Skip("BY");
+    m_pItem->notes.emplace_back("indexedBy", TakeNames());
+}
+
+// "IS" before EXTERNAL, GLOBAL and ATTRIBUTE says nothing of its own.
+void CKTEntryReader::ReadIs() {
+    if (!IsOneOf({"ATTRIBUTE", "EXTERNAL", "GLOBAL"})) {
+        Fail("\"IS\" is not expected here");
+    }
+}
+
+void CKTEntryReader::ReadJustified() {
+    Skip("RIGHT");
+    m_pItem->justified = true;
+}
+
+void CKTEntryReader::ReadKey() {
+    const bool ascending = IsWord(m_Words[m_nAt - 1], "ASCENDING");
+    Skip("KEY");
+    Skip("IS");
+    m_pItem->notes.emplace_back(ascending ? "ascendingKey" : "descendingKey", TakeNames());
+}
+
+void CKTEntryReader::ReadNamespace() {
+    Skip("IS");
+    m_pItem->notes.emplace_back("namespace", TakeLiteralText());
+}
+
+void CKTEntryReader::ReadNote() {
+    const bool global = IsWord(m_Words[m_nAt - 1], "GLOBAL");
+    m_pItem->notes.emplace_back(global ? "global" : "based", "true");
+}
+
+void CKTEntryReader::ReadOccurs() {
+    constexpr std::string_view kUnbounded = "unbounded";
+    const std::string first = Skip("UNBOUNDED") ? std::string(kUnbounded) : TakeInteger();
+    m_pItem->maxOccurs = first;
+    if (Skip("TO")) {
+        m_pItem->minOccurs = first;
+        m_pItem->maxOccurs = Skip("UNBOUNDED") ? std::string(kUnbounded) : TakeInteger();
+    }
+    Skip("TIMES");
+    if (m_bFailed) {
+        return;
+    }
+    const bool bounded = IsDigits(m_pItem->maxOccurs);
+    const long maximum = bounded ? std::stol(m_pItem->maxOccurs) : 0;
+    const bool rising = m_pItem->minOccurs.empty() || std::stol(m_pItem->minOccurs) < maximum;
+    if (bounded && (maximum == 0 || !rising)) {
+        Fail("OCCURS has no rising bounds");
+    }
+}
+
+void CKTEntryReader::ReadPicture() {
+    Skip("IS");
+    std::string text;
+    const auto isPiece = [this, &text] {
+        if (m_nAt == m_Words.size()) {
+            return false;
+        }
+        const TextWord& word = m_Words[m_nAt];
+        return (word.kind == WordKind::Word || word.kind == WordKind::Mark) &&
+               (text.empty() || word.glued);
+    };
+    while (isPiece()) {
+        const TextWord& word = m_Words[m_nAt++];
+        const std::string* constant = text.ends_with('(') ? ConstantOf(word.text) : nullptr;
+        text += constant == nullptr ? word.text : *constant;
+    }
+    if (text.empty()) {
+        Fail("PICTURE has no character-string");
+    }
+    m_pItem->picture = text;
+}
+
+void CKTEntryReader::ReadRedefines() {
+    m_pItem->redefines = TakeName();
+}
+
+void CKTEntryReader::ReadRenames() {
+    m_pItem->renames = TakeQualifiedName();
+    if (Skip("THRU") || Skip("THROUGH")) {
+        m_pItem->renamesThrough = TakeQualifiedName();
+    }
+}
+
+void CKTEntryReader::ReadSign() {
+    Skip("SIGN");
+    Skip("IS");
+    const bool leading = Skip("LEADING");
+    if (!leading && !Skip("TRAILING")) {
+        Fail("SIGN is neither LEADING nor TRAILING");
+        return;
+    }
+    if (Skip("SEPARATE")) {
+        Skip("CHARACTER");
+        m_pItem->sign = leading ? SignPosition::LeadingSeparate : SignPosition::TrailingSeparate;
+    } else {
+        m_pItem->sign = leading ? SignPosition::Leading : SignPosition::Trailing;
+    }
+}
+
+void CKTEntryReader::ReadSynchronized() {
+    std::string side = "true";
+    if (IsOneOf({"LEFT", "RIGHT"})) {
+        side = Skip("LEFT") ? "left" : "right";
+        Skip("RIGHT");
+    }
+    m_pItem->notes.emplace_back("synchronized", side);
+}
+
+void CKTEntryReader::ReadUsage() {
+    Skip("IS");
+    ReadUsageWord();
+}
+
+void CKTEntryReader::ReadUsageWord() {
+    if (m_nAt == m_Words.size()) {
+        Fail("USAGE is not complete");
+        return;
+    }
+    const UsageWord* word = UsageOf(m_Words[m_nAt].text);
+    if (word == nullptr) {
+        Fail("USAGE " + Quoted(m_Words[m_nAt].text) + " is not supported");
+        return;
+    }
+    ++m_nAt;
+    m_pItem->usage = word->usage;
+    if (word->digits == 0) {
+        return;
+    }
+    Skip("SIGNED");
+    const bool isSigned = !Skip("UNSIGNED");
+    constexpr std::size_t kSignedDouble = 19;
+    m_pItem->binaryDigits = word->digits + (!isSigned && word->digits == kSignedDouble ? 1 : 0);
+    if (!m_Seen.insert("PICTURE").second) {
+        Fail("A binary type has no PICTURE");
+    }
+    m_pItem->picture = (isSigned ? "S" : "") + std::string(word->picture);
+}
+
+void CKTEntryReader::ReadValue() {
+    Skip("IS");
+    Skip("ARE");
+    do {
+        ItemValue value;
+        value.value = TakeValue();
+        if (Skip("THRU") || Skip("THROUGH")) {
+            value.through = TakeValue();
+        }
+        m_pItem->values.push_back(std::move(value));
+    } while (!m_bFailed && m_nAt < m_Words.size() && ClauseOf(m_Words[m_nAt]) == nullptr);
+}

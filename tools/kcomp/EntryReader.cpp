@@ -1,0 +1,177 @@
+// An entry as a whole: level, name, the table of clauses, and what they must agree on. The clauses
+// themselves are in EntryClauses.cpp.
+#include "kcomp/EntryReader.h"
+
+#include <algorithm>
+
+#include "kcomp/Text.h"
+
+const CKTEntryReader::Clause* CKTEntryReader::ClauseOf(const TextWord& word) {
+    using R = CKTEntryReader;
+    static const std::unordered_map<std::string, Clause> clauses = {
+        {"ASCENDING", {"", &R::ReadKey}},
+        {"ATTRIBUTE", {"ATTRIBUTE", &R::ReadAttribute}},
+        {"BASED", {"BASED", &R::ReadNote}},
+        {"BLANK", {"BLANK WHEN ZERO", &R::ReadBlank}},
+        {"CONSTANT", {"CONSTANT", &R::ReadConstant}},
+        {"COUNT", {"COUNT IN", &R::ReadCountIn}},
+        {"DEPENDING", {"DEPENDING ON", &R::ReadDepending}},
+        {"DESCENDING", {"", &R::ReadKey}},
+        {"EXTERNAL", {"EXTERNAL", &R::ReadExternal}},
+        {"FALSE", {"FALSE", &R::ReadFalse}},
+        {"GLOBAL", {"GLOBAL", &R::ReadNote}},
+        {"IDENTIFIED", {"IDENTIFIED BY", &R::ReadIdentified}},
+        {"INDEXED", {"INDEXED BY", &R::ReadIndexed}},
+        {"IS", {"", &R::ReadIs}},
+        {"JUST", {"JUSTIFIED", &R::ReadJustified}},
+        {"JUSTIFIED", {"JUSTIFIED", &R::ReadJustified}},
+        {"LEADING", {"SIGN", &R::ReadSign}},
+        {"NAMESPACE", {"NAMESPACE", &R::ReadNamespace}},
+        {"OCCURS", {"OCCURS", &R::ReadOccurs}},
+        {"PIC", {"PICTURE", &R::ReadPicture}},
+        {"PICTURE", {"PICTURE", &R::ReadPicture}},
+        {"REDEFINES", {"REDEFINES", &R::ReadRedefines}},
+        {"RENAMES", {"RENAMES", &R::ReadRenames}},
+        {"SIGN", {"SIGN", &R::ReadSign}},
+        {"SYNC", {"SYNCHRONIZED", &R::ReadSynchronized}},
+        {"SYNCHRONIZED", {"SYNCHRONIZED", &R::ReadSynchronized}},
+        {"TRAILING", {"SIGN", &R::ReadSign}},
+        {"USAGE", {"USAGE", &R::ReadUsage}},
+        {"VALUE", {"VALUE", &R::ReadValue}},
+        {"VALUES", {"VALUE", &R::ReadValue}},
+        {"WHEN", {"FALSE", &R::ReadFalse}},
+    };
+    if (word.kind != WordKind::Word) {
+        return nullptr;
+    }
+    if (IsUsageWord(word.text)) {
+        static const Clause usage = {"USAGE", &R::ReadUsageWord};
+        return &usage;
+    }
+    const auto found = clauses.find(ToUpper(word.text));
+    return found == clauses.end() ? nullptr : &found->second;
+}
+
+std::unique_ptr<DataItem> CKTEntryReader::Read() {
+    m_pItem = std::make_unique<DataItem>();
+    ReadLevelAndName();
+    while (!m_bFailed && m_nAt < m_Words.size()) {
+        ReadClause();
+    }
+    if (!m_bFailed) {
+        CheckEntry();
+    }
+    return m_bFailed ? nullptr : std::move(m_pItem);
+}
+
+void CKTEntryReader::ReadLevelAndName() {
+    const std::string& text = m_Words[0].text;
+    m_pItem->place = m_Words[0].place;
+    m_pItem->level = text.size() > 2 ? 0 : std::stoi(text);
+    const int level = m_pItem->level;
+    const bool known = (level >= 1 && level <= kHighestLevel) || level == kRenamesLevel ||
+                       level == kLoneLevel || level == kConstantLevel || level == kConditionLevel;
+    if (!known) {
+        Fail("Level " + text + " is none of 01 to 49, 66, 77, 78 and 88");
+        return;
+    }
+    m_nAt = 1;
+    if (m_nAt == m_Words.size() || ClauseOf(m_Words[m_nAt]) != nullptr) {
+        return;
+    }
+    const std::string name = TakeName();
+    m_pItem->name = SameWord(name, "FILLER") ? "" : name;
+}
+
+void CKTEntryReader::ReadClause() {
+    const TextWord& word = m_Words[m_nAt];
+    const Clause* clause = ClauseOf(word);
+    if (clause == nullptr) {
+        if (word.kind == WordKind::Word && IsDigits(word.text)) {
+            m_Context.report.Error(word.place, "The period before " + word.text + " is missing");
+            m_bFailed = true;
+        } else {
+            Fail("Clause " + Quoted(word.text) + " is not supported");
+        }
+        return;
+    }
+    if (!clause->name.empty() && !m_Seen.insert(clause->name).second) {
+        Fail("Clause " + std::string(clause->name) + " is given twice");
+        return;
+    }
+    if (clause->handler != &CKTEntryReader::ReadUsageWord &&
+        clause->handler != &CKTEntryReader::ReadSign) {
+        ++m_nAt;
+    }
+    (this->*clause->handler)();
+}
+
+void CKTEntryReader::CheckEntry() {
+    const DataItem& item = *m_pItem;
+    const auto only = [this](std::initializer_list<std::string_view> clauses) {
+        return std::all_of(m_Seen.begin(), m_Seen.end(), [clauses](std::string_view seen) {
+            return std::find(clauses.begin(), clauses.end(), seen) != clauses.end();
+        });
+    };
+    const bool constant = m_Seen.contains("CONSTANT");
+    if (item.level == kConditionLevel) {
+        if (item.name.empty() || item.values.empty() || !only({"VALUE", "FALSE"})) {
+            Fail("A condition-name has a name, a VALUE clause and nothing else");
+        }
+    } else if (item.level == kRenamesLevel) {
+        if (item.name.empty() || item.renames.empty() || !only({"RENAMES"})) {
+            Fail("An entry of level 66 has a name, a RENAMES clause and nothing else");
+        }
+    } else if (item.level == kConstantLevel || constant) {
+        if (item.name.empty() || item.values.size() != 1 || !item.values[0].through.empty() ||
+            !only({"VALUE", "CONSTANT", "GLOBAL"})) {
+            Fail("A constant has a name, one value and nothing else");
+        }
+        m_pItem->level = kConstantLevel;
+    } else if (!item.renames.empty()) {
+        Fail("RENAMES belongs to level 66");
+    } else if (item.values.size() > 1 ||
+               (!item.values.empty() && !item.values[0].through.empty())) {
+        Fail("Only a condition-name has several values");
+    } else {
+        CheckOccurs();
+    }
+}
+
+void CKTEntryReader::CheckOccurs() {
+    const DataItem& item = *m_pItem;
+    if (item.maxOccurs.empty()) {
+        if (!item.odo.empty() || m_Seen.contains("INDEXED BY")) {
+            Fail("DEPENDING ON and INDEXED BY belong to an OCCURS clause");
+        }
+    } else if (item.odo.empty() && !item.minOccurs.empty()) {
+        Fail("OCCURS with TO needs DEPENDING ON");
+    } else if (!item.odo.empty() && item.minOccurs.empty()) {
+        m_pItem->minOccurs = "1";
+    }
+}
+
+bool CKTEntryReader::Is(std::string_view word) const {
+    return m_nAt < m_Words.size() && IsWord(m_Words[m_nAt], word);
+}
+
+bool CKTEntryReader::IsOneOf(std::initializer_list<std::string_view> words) const {
+    return std::any_of(words.begin(), words.end(),
+                       [this](std::string_view word) { return Is(word); });
+}
+
+bool CKTEntryReader::Skip(std::string_view word) {
+    const bool there = Is(word);
+    m_nAt += there ? 1 : 0;
+    return there;
+}
+
+/// Complains once, at the word that is read.
+void CKTEntryReader::Fail(std::string_view text) {
+    if (!m_bFailed) {
+        const std::size_t at = std::min(m_nAt, m_Words.size() - 1);
+        m_Context.report.Error(m_Words[at].place, text);
+        m_nAt = m_Words.size();
+        m_bFailed = true;
+    }
+}

@@ -1,0 +1,101 @@
+#ifndef DORVEX_KCOMP_ENTRYREADER_H
+#define DORVEX_KCOMP_ENTRYREADER_H
+
+#include <memory>
+#include <optional>
+#include <set>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "kcomp/DataItem.h"
+#include "kcomp/Report.h"
+#include "kcomp/TextWords.h"
+
+/// The named constants of a program (level 78, CONSTANT) by their names in upper case, with the
+/// values as the dictionary holds them.
+using Constants = std::unordered_map<std::string, std::string>;
+
+/// What all entries of a program are read with.
+struct ReadingContext {
+    CKTReport& report;
+    Constants constants;
+    PictureSymbols symbols;
+};
+
+/// Reads the clauses of one data description entry.
+class CKTEntryReader {
+public:
+    /// `words` is the entry without its period; the first word is the level number.
+    CKTEntryReader(std::span<TextWord> words, ReadingContext& context)
+        : m_Words(words), m_Context(context) {}
+
+    /// Returns the item, or nothing after one complaint. A named constant comes as an item of
+    /// level 78 with its value.
+    std::unique_ptr<DataItem> Read();
+
+    /// The number of words that were read. Less than all when a level number stands inside the
+    /// entry, because the period before it is missing; that is complained of.
+    [[nodiscard]] std::size_t WordsRead() const { return m_nAt; }
+
+private:
+    using Handler = void (CKTEntryReader::*)();
+    struct Clause {
+        std::string_view name;  // the same for all spellings
+        Handler handler;
+    };
+
+    static const Clause* ClauseOf(const TextWord& word);
+    static bool IsUsageWord(std::string_view word);
+
+    void ReadLevelAndName();
+    void ReadClause();
+    void ReadAttribute();
+    void ReadBlank();
+    void ReadConstant();
+    void ReadCountIn();
+    void ReadDepending();
+    void ReadExternal();
+    void ReadFalse();
+    void ReadIdentified();
+    void ReadIndexed();
+    void ReadIs();
+    void ReadJustified();
+    void ReadKey();
+    void ReadNamespace();
+    void ReadNote();
+    void ReadOccurs();
+    void ReadPicture();
+    void ReadRedefines();
+    void ReadRenames();
+    void ReadSign();
+    void ReadSynchronized();
+    void ReadUsage();
+    void ReadUsageWord();
+    void ReadValue();
+    void CheckEntry();
+    void CheckOccurs();
+
+    [[nodiscard]] bool Is(std::string_view word) const;
+    [[nodiscard]] bool IsOneOf(std::initializer_list<std::string_view> words) const;
+    bool Skip(std::string_view word);
+    std::string TakeName();
+    std::string TakeQualifiedName();
+    std::string TakeNames();
+    std::string TakeInteger();
+    std::string TakeLiteralText();
+    std::string TakeValue();
+    std::string TakeWordValue();
+    [[nodiscard]] const std::string* ConstantOf(std::string_view name) const;
+    void Fail(std::string_view text);
+
+    std::span<TextWord> m_Words;
+    ReadingContext& m_Context;
+    std::unique_ptr<DataItem> m_pItem;
+    std::size_t m_nAt = 0;
+    std::set<std::string_view> m_Seen;
+    bool m_bFailed = false;
+};
+
+#endif

@@ -1,0 +1,241 @@
+// Reads a PICTURE into runs of equal symbols and asks, from the narrowest to the widest, which
+// category they fit.
+#include "kcomp/Picture.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <optional>
+#include <vector>
+
+#include "kcomp/Text.h"
+
+namespace {
+
+constexpr std::size_t kLongest = std::numeric_limits<int>::max();
+constexpr std::size_t kMostDigits = 38;
+
+struct Run {
+    char symbol;  // upper case; C and D stand for CR and DB, $ for the currency sign, . for the
+                  // decimal point whichever character it is
+    std::size_t count;
+};
+
+/// The number in parentheses at the front of `text`, which is cut off; 0 when there is none.
+std::size_t TakeCount(std::string_view& text) {
+    const std::size_t end = text.find(')');
+    const std::string_view number =
+        end == std::string_view::npos ? std::string_view() : text.substr(1, end - 1);
+    std::size_t count = 0;
+    if (!IsDigits(number)) {
+        return 0;
+    }
+    for (const char c : number) {
+        count = std::min(count * 10 + static_cast<std::size_t>(c - '0'), kLongest + 1);
+    }
+    text.remove_prefix(end + 1);
+    return count;
+}
+
+char SymbolOf(char c, const PictureSymbols& symbols) {
+    if (symbols.decimalComma && (c == '.' || c == ',')) {
+        return c == '.' ? ',' : '.';
+    }
+    return c;
+}
+
+/// The runs of a PICTURE, or nothing when it holds a character that is no symbol.
+std::optional<std::vector<Run>> RunsOf(std::string_view text, const PictureSymbols& symbols) {
+    std::vector<Run> runs;
+    const auto add = [&runs](char symbol, std::size_t count) {
+        if (!runs.empty() && runs.back().symbol == symbol) {
+            runs.back().count = std::min(runs.back().count + count, kLongest + 1);
+        } else {
+            runs.push_back({symbol, count});
+        }
+    };
+    const std::string upper = ToUpper(text);
+    const std::string currency = ToUpper(std::string_view(&symbols.currency, 1));
+    for (std::string_view rest = upper; !rest.empty();) {
+        const bool sign = rest.starts_with("CR") || rest.starts_with("DB");
+        char symbol = rest.front();
+        rest.remove_prefix(sign ? 2 : 1);
+        if (symbol == currency.front()) {
+            symbol = '$';
+        } else if (sign) {
+            symbol = symbol == 'C' ? 'C' : 'D';
+        } else if (std::string_view("AX9NBSVPZE0/,.+-*").find(symbol) == std::string_view::npos) {
+            return std::nullopt;
+        } else {
+            symbol = SymbolOf(symbol, symbols);
+        }
+        std::size_t count = 1;
+        if (rest.starts_with('(')) {
+            count = TakeCount(rest);
+            if (count == 0) {
+                return std::nullopt;
+            }
+        }
+        add(symbol, count);
+    }
+    return runs;
+}
+
+class CKTPictureReader {
+public:
+    explicit CKTPictureReader(std::vector<Run> runs) : m_Runs(std::move(runs)) {}
+
+    std::optional<Picture> Read() {
+        const bool read = ReadNumeric() || ReadText() || ReadNumericEdited() || ReadFloating();
+        return read ? std::optional(m_Picture) : std::nullopt;
+    }
+
+private:
+    [[nodiscard]] std::size_t Count(std::string_view symbols) const {
+        std::size_t count = 0;
+        for (const Run& run : m_Runs) {
+            count += symbols.find(run.symbol) == std::string_view::npos ? 0 : run.count;
+        }
+        return count;
+    }
+
+    [[nodiscard]] bool HoldsOnly(std::string_view symbols) const {
+        return std::all_of(m_Runs.begin(), m_Runs.end(), [symbols](const Run& run) {
+            return symbols.find(run.symbol) != std::string_view::npos;
+        });
+    }
+
+    [[nodiscard]] std::string Shape() const {
+        std::string shape;
+        for (const Run& run : m_Runs) {
+            shape += run.symbol;
+        }
+        return shape;
+    }
+
+    bool ReadNumeric() {
+        constexpr std::array<std::string_view, 8> shapes = {"9",  "9V",  "9V9", "V9",
+                                                            "9P", "9PV", "P9",  "VP9"};
+        std::string shape = Shape();
+        m_Picture.isSigned = shape.starts_with('S') && m_Runs.front().count == 1;
+        shape.erase(0, m_Picture.isSigned ? 1 : 0);
+        if (std::find(shapes.begin(), shapes.end(), shape) == shapes.end() || Count("V") > 1) {
+            return false;
+        }
+        m_Picture.category = Category::Numeric;
+        m_Picture.digits = Count("9P");
+        m_Picture.length = Count("9");
+        if (shape.starts_with('P') || shape.starts_with('V')) {
+            m_Picture.decimals = m_Picture.digits;
+        } else if (shape == "9V9") {
+            m_Picture.decimals = m_Runs.back().count;
+        }
+        return true;
+    }
+
+    bool ReadText() {
+        const bool edited = Count("B0/") > 0;
+        if (Count("N") > 0 && HoldsOnly("NB0/")) {
+            m_Picture.category = Category::National;
+        } else if (Count("AX") > 0 && HoldsOnly("AX9B0/")) {
+            m_Picture.category = edited ? Category::AlphanumericEdited : Category::Alphanumeric;
+        } else {
+            return false;
+        }
+        m_Picture.length = Count("AXN9B0/");
+        return true;
+    }
+
+    bool ReadNumericEdited() {
+        const std::string shape = Shape();
+        const bool symbolsFit =
+            HoldsOnly("9ZVPB0/,.+-*$CD") && Count("ZB0/,.+-*$CD") > 0 && Count("V.") <= 1 &&
+            Count("CD") <= 1 && !(Count("Z") > 0 && Count("*") > 0) &&
+            !(Count("+") > 0 && Count("-") > 0) && !(Count("CD") > 0 && Count("+-") > 0);
+        const std::size_t suppressed = shape.find_last_of("Z*");
+        const bool ordered =
+            suppressed == std::string::npos || suppressed < std::min(shape.find('9'), shape.size());
+        const std::size_t positions = Count("9Z*") + Floating('+') + Floating('-') + Floating('$');
+        if (!symbolsFit || !ordered || positions == 0 || !SignsFit(shape) || !ScalingFits(shape)) {
+            return false;
+        }
+        m_Picture.category = Category::NumericEdited;
+        m_Picture.length = Count("9ZB0/,.+-*$") + 2 * Count("CD");
+        return true;
+    }
+
+    /// A sign stands at an end, a currency sign before the digits, a floating string before the
+    /// first 9.
+    [[nodiscard]] bool SignsFit(const std::string& shape) const {
+        const std::size_t digit = std::min(shape.find('9'), shape.size());
+        for (const char symbol : {'+', '-', '$'}) {
+            const std::size_t first = shape.find(symbol);
+            if (first == std::string::npos) {
+                continue;
+            }
+            const bool floats = Count(std::string_view(&symbol, 1)) > 1;
+            const bool atFront = shape.find_first_not_of("+-$") > first;
+            const bool atEnd = symbol != '$' && first == shape.size() - 1;
+            if (floats ? shape.rfind(symbol) > digit : !atFront && !atEnd) {
+                return false;
+            }
+        }
+        return Count("CD") == 0 || shape.find_first_of("CD") == shape.size() - 1;
+    }
+
+    [[nodiscard]] static bool ScalingFits(const std::string& shape) {
+        const std::size_t scaling = shape.find('P');
+        return scaling == std::string::npos ||
+               (scaling == shape.rfind('P') && (scaling == 0 || scaling == shape.size() - 1));
+    }
+
+    /// Digit positions of a floating string: all but its first symbol.
+    [[nodiscard]] std::size_t Floating(char symbol) const {
+        const std::size_t count = Count(std::string_view(&symbol, 1));
+        return count > 1 ? count - 1 : 0;
+    }
+
+    /// A mantissa with its sign, E, and an exponent of two digits with its sign.
+    bool ReadFloating() {
+        const std::string shape = Shape();
+        const std::size_t e = shape.find('E');
+        if (e == std::string::npos || e < 2 || Count("E") != 1) {
+            return false;
+        }
+        constexpr std::array<std::string_view, 6> mantissas = {"9.9", "9.", ".9",
+                                                               "9V9", "9V", "V9"};
+        const auto isSign = [](char c) { return c == '+' || c == '-'; };
+        const bool mantissa = isSign(shape[0]) && Count("V.") == 1 &&
+                              std::find(mantissas.begin(), mantissas.end(),
+                                        shape.substr(1, e - 1)) != mantissas.end();
+        const bool exponent = shape.size() == e + 3 && isSign(shape[e + 1]) &&
+                              shape[e + 2] == '9' && m_Runs.back().count == 2 &&
+                              m_Runs[0].count == 1 && m_Runs[e + 1].count == 1;
+        m_Picture.category = Category::NumericEdited;
+        m_Picture.length = Count("9.+-E");
+        return mantissa && exponent;
+    }
+
+    std::vector<Run> m_Runs;
+    Picture m_Picture;
+};
+
+}  // namespace
+
+Picture ReadPicture(std::string_view text, const PictureSymbols& symbols) {
+    Picture failed;
+    const auto runs = RunsOf(text, symbols);
+    if (!runs || runs->empty()) {
+        failed.fault = "PICTURE " + Quoted(text) + " holds what is no PICTURE symbol";
+        return failed;
+    }
+    const std::optional<Picture> picture = CKTPictureReader(*runs).Read();
+    if (!picture) {
+        failed.fault = "PICTURE " + Quoted(text) + " fits no category of data";
+    } else if (picture->digits > kMostDigits) {
+        failed.fault = "PICTURE " + Quoted(text) + " has more than 38 digits";
+    } else if (picture->length > kLongest) {
+        failed.fault = "PICTURE " + Quoted(text) + " is too long";
+    }
+    return failed.fault.empty() ? *picture : failed;
+}

@@ -1,0 +1,35 @@
+#ifndef DORVEX_KCOMP_PICTURE_H
+#define DORVEX_KCOMP_PICTURE_H
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// What an elementary item holds.
+enum class Category {
+    Numeric,
+    Alphanumeric,  ///< alphabetic items too
+    AlphanumericEdited,
+    NumericEdited,  ///< floating-point edited items too
+    National        ///< national-edited items too
+};
+
+/// What SPECIAL-NAMES says about pictures.
+struct PictureSymbols {
+    char currency = '$';
+    bool decimalComma = false;
+};
+
+struct Picture {
+    Category category = Category::Alphanumeric;
+    bool isSigned = false;     ///< holds the symbol S
+    std::size_t length = 0;    ///< character positions; of a numeric item its digits
+    std::size_t digits = 0;    ///< digit positions of a numeric item, the P included
+    std::size_t decimals = 0;  ///< those right of the decimal point
+    std::string fault;         ///< the complaint when the text is no PICTURE; the rest is then void
+};
+
+/// Reads a PICTURE character-string; counts in parentheses are numbers.
+Picture ReadPicture(std::string_view text, const PictureSymbols& symbols);
+
+#endif

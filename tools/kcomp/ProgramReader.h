@@ -1,0 +1,58 @@
+#ifndef DORVEX_KCOMP_PROGRAMREADER_H
+#define DORVEX_KCOMP_PROGRAMREADER_H
+
+#include <deque>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "kcomp/DataItem.h"
+#include "kcomp/EntryReader.h"
+#include "kcomp/RecordBuilder.h"
+#include "kcomp/TextWords.h"
+
+/// Finds the data descriptions of a source: those of the WORKING-STORAGE SECTION and the FILE
+/// SECTION of each program, or those that a bare copybook consists of.
+class CKTProgramReader {
+public:
+    /// `words` is the whole source, copies included. `name` is the name of a program that names
+    /// itself nowhere, a bare copybook above all.
+    CKTProgramReader(std::vector<TextWord> words, std::string name, CKTReport& report);
+
+    /// Returns the programs in the order of the source. Complains of what cannot be read, and of a
+    /// source that holds no program and no data description.
+    std::deque<ProgramData> Read();
+
+private:
+    enum class Place { Elsewhere, Environment, WorkingStorage, FileSection };
+
+    bool TakeHeader();
+    bool TakeDivision();
+    bool TakeSection();
+    bool TakeProgramName();
+    bool TakeEndProgram();
+    void TakeSpecialName();
+    void TakeEntry();
+    void TakeFile();
+    void TakeDataEntry(std::size_t end);
+    void TakeUnsupported();
+    void BeginArea(bool isFile, std::string name);
+    void EndArea();
+    ProgramData& Program();
+
+    [[nodiscard]] bool Is(std::size_t at, std::string_view word) const;
+    [[nodiscard]] std::size_t EndOfEntry() const;
+    [[nodiscard]] bool InData() const;
+
+    std::vector<TextWord> m_Words;
+    std::string m_sName;
+    ReadingContext m_Context;
+    std::deque<ProgramData> m_Programs;
+    std::optional<CKTRecordBuilder> m_Builder;
+    std::size_t m_nAt = 0;
+    Place m_Place = Place::Elsewhere;
+    bool m_bBare = false;
+};
+
+#endif

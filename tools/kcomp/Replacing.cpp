@@ -1,0 +1,108 @@
+#include "kcomp/Replacing.h"
+
+#include <algorithm>
+
+#include "kcomp/Text.h"
+
+namespace {
+
+bool SameText(const TextWord& a, const TextWord& b) {
+    return a.kind == b.kind &&
+           (a.kind == WordKind::Literal ? a.text == b.text : SameWord(a.text, b.text));
+}
+
+bool FitsWhole(const std::vector<TextWord>& words, std::size_t at, const Replacement& pair) {
+    return words.size() - at >= pair.from.size() &&
+           std::equal(pair.from.begin(), pair.from.end(),
+                      words.begin() + static_cast<std::ptrdiff_t>(at), SameText);
+}
+
+bool FitsPart(const TextWord& word, const Replacement& pair) {
+    const std::string_view text = word.text;
+    const std::string_view part = pair.from.front().text;
+    if (word.kind != WordKind::Word || text.size() < part.size()) {
+        return false;
+    }
+    return SameWord(part, pair.part == Replacement::Part::Leading
+                              ? text.substr(0, part.size())
+                              : text.substr(text.size() - part.size()));
+}
+
+class CKTReplacer {
+public:
+    CKTReplacer(const std::vector<TextWord>& words, const std::vector<Replacement>& pairs)
+        : m_Words(words), m_Pairs(pairs) {}
+
+    std::optional<std::vector<TextWord>> Replace(std::size_t most) {
+        for (std::size_t at = 0; at < m_Words.size();) {
+            if (m_Result.size() > most) {
+                return std::nullopt;
+            }
+            const auto pair = std::find_if(m_Pairs.begin(), m_Pairs.end(),
+                                           [this, at](const Replacement& candidate) {
+                                               return candidate.part == Replacement::Part::Whole
+                                                          ? FitsWhole(m_Words, at, candidate)
+                                                          : FitsPart(m_Words[at], candidate);
+                                           });
+            if (pair == m_Pairs.end()) {
+                Put(m_Words[at++]);
+            } else if (pair->part == Replacement::Part::Whole) {
+                PutReplacement(m_Words[at], pair->by);
+                at += pair->from.size();
+            } else {
+                PutPart(m_Words[at++], *pair);
+            }
+        }
+        return std::move(m_Result);
+    }
+
+private:
+    void PutReplacement(const TextWord& replaced, const std::vector<TextWord>& by) {
+        bool first = true;
+        for (TextWord word : by) {
+            word.place = replaced.place;
+            word.glued = first ? replaced.glued : word.glued;
+            Put(std::move(word));
+            first = false;
+        }
+        m_bApart = by.empty() && !replaced.glued;
+    }
+
+    void PutPart(TextWord word, const Replacement& pair) {
+        const std::string by = pair.by.empty() ? std::string() : pair.by.front().text;
+        const std::size_t length = pair.from.front().text.size();
+        if (pair.part == Replacement::Part::Leading) {
+            word.text.replace(0, length, by);
+        } else {
+            word.text.replace(word.text.size() - length, length, by);
+        }
+        if (!word.text.empty()) {
+            Put(std::move(word));
+        }
+    }
+
+    void Put(TextWord word) {
+        word.glued = word.glued && !m_bApart;
+        m_bApart = false;
+        const bool joins = word.glued && word.kind == WordKind::Word && !m_Result.empty() &&
+                           m_Result.back().kind == WordKind::Word;
+        if (joins) {
+            m_Result.back().text += word.text;
+        } else {
+            m_Result.push_back(std::move(word));
+        }
+    }
+
+    const std::vector<TextWord>& m_Words;
+    const std::vector<Replacement>& m_Pairs;
+    std::vector<TextWord> m_Result;
+    bool m_bApart = false;  // a word was taken away, so that the next one joins nothing
+};
+
+}  // namespace
+
+std::optional<std::vector<TextWord>> ReplaceWords(const std::vector<TextWord>& words,
+                                                  const std::vector<Replacement>& pairs,
+                                                  std::size_t most) {
+    return CKTReplacer(words, pairs).Replace(most);
+}

@@ -1,0 +1,188 @@
+// Reads columns, comments, directives and continuation, so that what follows sees plain text.
+#include "kcomp/SourceLines.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "kcomp/Text.h"
+
+namespace {
+
+constexpr std::size_t kIndicator = 6;   // column 7
+constexpr std::size_t kTextEnd = 72;    // the text of a fixed line ends in this column
+constexpr std::size_t kBodyWidth = 65;  // columns 8 to 72
+constexpr char kEndOfFile = '\x1A';     // closes files of an older system
+
+bool IsControl(char c) {
+    return (static_cast<unsigned char>(c) < ' ' && c != '\f') || c == '\x7F';
+}
+
+/// The words of a directive line, with the marks that may stand around a value taken away.
+std::vector<std::string> DirectiveWords(std::string_view line) {
+    std::string plain = ToUpper(line);
+    for (char& c : plain) {
+        if (std::string_view("()\"'.=").find(c) != std::string_view::npos) {
+            c = ' ';
+        }
+    }
+    std::vector<std::string> words;
+    for (std::string_view rest = Trim(plain); !rest.empty(); rest = Trim(rest)) {
+        const std::string_view word = rest.substr(0, rest.find(' '));
+        words.emplace_back(word);
+        rest.remove_prefix(word.size());
+    }
+    return words;
+}
+
+class CKTLineReader {
+public:
+    explicit CKTLineReader(SourceFormat format) : m_Format(format) {}
+
+    void Add(std::string_view raw) {
+        ++m_nLine;
+        const std::string line = ExpandTabs(raw);
+        if (std::any_of(line.begin(), line.end(), IsControl)) {
+            AddFault("The line holds a control character");
+        } else if (const auto directive = DirectiveOf(line)) {
+            Obey(*directive);
+        } else if (m_Format == SourceFormat::Free) {
+            BeginLine(line);
+        } else {
+            AddFixed(line);
+        }
+    }
+
+    std::vector<LogicalLine> TakeLines() { return std::move(m_Lines); }
+    [[nodiscard]] SourceFormat Format() const { return m_Format; }
+
+private:
+    /// The text of a directive line, or nothing when the line is none.
+    [[nodiscard]] static std::optional<std::string_view> DirectiveOf(std::string_view line) {
+        const std::string_view numbered =
+            line.size() > kIndicator ? line.substr(kIndicator) : std::string_view();
+        for (const std::string_view text : {Trim(line), Trim(numbered)}) {
+            const bool dollar = text.size() > 1 && text[0] == '$' && text[1] >= 'A';
+            if (text.starts_with(">>") || dollar) {
+                return text;
+            }
+        }
+        return std::nullopt;
+    }
+
+    void Obey(std::string_view directive) {
+        const std::vector<std::string> words = DirectiveWords(directive);
+        const auto has = [&words](std::string_view word) {
+            return std::find(words.begin(), words.end(), word) != words.end();
+        };
+        const bool setsFormat = has(">>SOURCE") || has("SOURCEFORMAT");
+        if (setsFormat && has("FREE")) {
+            m_Format = SourceFormat::Free;
+        } else if (setsFormat && has("FIXED")) {
+            m_Format = SourceFormat::Fixed;
+        } else if (setsFormat || !(has("$SET") || has(">>PAGE") || has(">>LISTING"))) {
+            AddFault("Directive " + Quoted(directive) + " is not supported");
+        }
+    }
+
+    void AddFixed(std::string_view line) {
+        line = line.substr(0, kTextEnd);
+        if (line.size() <= kIndicator) {
+            return;
+        }
+        const std::string_view body = line.substr(kIndicator + 1);
+        switch (line[kIndicator]) {
+            case ' ':
+            case '\f':
+                BeginLine(body);
+                break;
+            case '-':
+                Continue(body);
+                break;
+            case '*':
+            case '/':
+            case 'D':
+            case 'd':
+                break;
+            default:
+                AddFault("Column 7 holds " + Quoted(line.substr(kIndicator, 1)) +
+                         ", which is no indicator of the fixed format");
+        }
+    }
+
+    void BeginLine(std::string_view body) {
+        m_cOpen = '\0';
+        if (body.find_first_not_of(' ') == std::string_view::npos) {
+            return;
+        }
+        m_Lines.emplace_back();
+        Append(body, 0);
+    }
+
+    void Continue(std::string_view body) {
+        const std::size_t first = body.find_first_not_of(' ');
+        if (first == std::string_view::npos) {
+            return;
+        }
+        if (m_Lines.empty() || !m_Lines.back().fault.empty()) {
+            AddFault("There is no line to continue");
+            return;
+        }
+        std::string& text = m_Lines.back().text;
+        std::size_t column = first;
+        if (m_cOpen == '\0') {
+            text.erase(text.find_last_not_of(' ') + 1);
+        } else if (body[first] == m_cOpen) {
+            text.append(kBodyWidth - m_nBody, ' ');
+            ++column;
+        } else {
+            AddFault("A continued literal begins with its quotation mark");
+            return;
+        }
+        Append(body, column);
+    }
+
+    /// Appends the body from `column` on, up to a comment.
+    void Append(std::string_view body, std::size_t column) {
+        LogicalLine& line = m_Lines.back();
+        line.segments.push_back({line.text.size(), m_nLine});
+        m_nBody = body.size();
+        for (std::size_t i = column; i < body.size(); ++i) {
+            const char c = body[i];
+            if (m_cOpen != '\0') {
+                m_cOpen = c == m_cOpen ? '\0' : m_cOpen;
+            } else if (c == '"' || c == '\'') {
+                m_cOpen = c;
+            } else if (body.substr(i, 2) == "*>") {
+                return;
+            }
+            line.text += c == '\f' ? ' ' : c;
+        }
+    }
+
+    void AddFault(std::string text) {
+        m_Lines.push_back({{}, {{0, m_nLine}}, std::move(text)});
+        m_cOpen = '\0';
+    }
+
+    SourceFormat m_Format;
+    std::vector<LogicalLine> m_Lines;
+    std::size_t m_nLine = 0;
+    std::size_t m_nBody = 0;  // width of the last line's body
+    char m_cOpen = '\0';      // the quotation mark of a literal that is still open
+};
+
+}  // namespace
+
+std::vector<LogicalLine> ReadLogicalLines(std::string_view content, SourceFormat& format) {
+    CKTLineReader reader(format);
+    while (!content.empty()) {
+        const std::string_view line = TakeLine(content);
+        const std::size_t end = line.find(kEndOfFile);
+        reader.Add(line.substr(0, end));
+        if (end != std::string_view::npos) {
+            break;
+        }
+    }
+    format = reader.Format();
+    return reader.TakeLines();
+}

@@ -1,0 +1,31 @@
+#ifndef DORVEX_KCOMP_SOURCELINES_H
+#define DORVEX_KCOMP_SOURCELINES_H
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+enum class SourceFormat { Fixed, Free };
+
+/// A line of COBOL text without columns, comments and continuation. A line that cannot be read
+/// holds the complaint in `fault`.
+struct LogicalLine {
+    struct Segment {
+        std::size_t offset;  ///< where the text of a line of the file begins in `text`
+        std::size_t line;    ///< that line, counted from 1
+    };
+    std::string text;
+    std::vector<Segment> segments;
+    std::string fault;
+};
+
+/// Tells the format of a source that names none: what stands in the first seven columns decides.
+/// Returns `otherwise` when every line fits both formats.
+SourceFormat DetectFormat(std::string_view content, SourceFormat otherwise);
+
+/// Splits a source into logical lines. `format` is the format of the first line; a directive
+/// ">>SOURCE" or "$SET SOURCEFORMAT" changes it, also for the caller.
+std::vector<LogicalLine> ReadLogicalLines(std::string_view content, SourceFormat& format);
+
+#endif

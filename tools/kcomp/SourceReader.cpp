@@ -1,0 +1,193 @@
+#include "kcomp/SourceReader.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "kcomp/Text.h"
+
+namespace {
+
+constexpr std::size_t kMostNested = 50;
+constexpr std::size_t kMostCopied = 10'000'000;
+constexpr std::size_t kCostOfFile = 1'000;  // in words
+constexpr const char* kTooMuchText = "The copy files hold too much text";
+
+std::optional<std::string> ContentOf(const std::string& path) {
+    std::error_code ignored;
+    // Opening a pipe waits for a writer.
+    if (!std::filesystem::is_regular_file(path, ignored)) {
+        return std::nullopt;
+    }
+    std::ifstream file(path, std::ios::binary);
+    if (!file) {
+        return std::nullopt;
+    }
+    std::string content((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+    if (file.bad()) {
+        return std::nullopt;
+    }
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    if (content.starts_with(kByteOrderMark)) {
+        content.erase(0, kByteOrderMark.size());
+    }
+    return content;
+}
+
+TextWord FaultAt(const SourcePlace& place, std::string text) {
+    return {WordKind::Fault, false, std::move(text), place};
+}
+
+}  // namespace
+
+std::optional<std::vector<TextWord>> CKTSourceReader::Read(const std::string& path,
+                                                           std::optional<SourceFormat> format) {
+    SourceFormat used = format.value_or(SourceFormat::Fixed);
+    auto words = WordsOf(path, used, !format.has_value());
+    if (!words) {
+        m_Report.Error({m_Report.KeepName(path), 1}, "The file cannot be read");
+        return std::nullopt;
+    }
+    return Expand(std::move(*words), used);
+}
+
+std::optional<std::vector<TextWord>> CKTSourceReader::WordsOf(const std::string& path,
+                                                              SourceFormat& format, bool detect) {
+    const std::optional<std::string> content = ContentOf(path);
+    if (!content) {
+        return std::nullopt;
+    }
+    if (detect) {
+        format = DetectFormat(*content, format);
+    }
+    return SplitIntoWords(ReadLogicalLines(*content, format), m_Report.KeepName(path));
+}
+
+std::vector<TextWord> CKTSourceReader::Expand(std::vector<TextWord> words, SourceFormat format) {
+    std::vector<TextWord> expanded;
+    for (std::size_t at = 0; at < words.size();) {
+        if (!IsWord(words[at], "COPY")) {
+            expanded.push_back(std::move(words[at++]));
+            continue;
+        }
+        const CopyStatement copy = ReadCopy(words, at);
+        std::vector<TextWord> copied = Copied(copy, format);
+        expanded.insert(expanded.end(), std::make_move_iterator(copied.begin()),
+                        std::make_move_iterator(copied.end()));
+        at = copy.end;
+    }
+    return expanded;
+}
+
+std::vector<TextWord> CKTSourceReader::Copied(const CopyStatement& copy, SourceFormat format) {
+    const auto fault = [&copy](std::string text) {
+        return std::vector<TextWord>{FaultAt(copy.name.place, std::move(text))};
+    };
+    if (!copy.fault.empty()) {
+        return fault(copy.fault);
+    }
+    const bool literal = copy.name.kind == WordKind::Literal;
+    const std::string name =
+        literal ? copy.name.text.substr(1, copy.name.text.size() - 2) : copy.name.text;
+    const std::optional<std::string> path = m_Library.Find(name, literal);
+    if (!path) {
+        return fault("Copy file " + Quoted(name) + " is not found");
+    }
+    if (m_nDepth == kMostNested) {
+        return fault("Copy files are nested too deep, or copy themselves");
+    }
+    auto words = WordsOf(*path, format, true);
+    if (!words) {
+        return fault("Copy file " + Quoted(*path) + " cannot be read");
+    }
+    m_nCopied += words->size() + kCostOfFile;
+    if (m_nCopied > kMostCopied) {
+        return fault(kTooMuchText);
+    }
+    ++m_nDepth;
+    std::vector<TextWord> expanded = Expand(std::move(*words), format);
+    --m_nDepth;
+    if (copy.pairs.empty()) {
+        return expanded;
+    }
+    auto replaced = ReplaceWords(expanded, copy.pairs, kMostCopied);
+    return replaced ? std::move(*replaced) : fault(kTooMuchText);
+}
+
+// COPY name [SUPPRESS [PRINTING]] [REPLACING {operand BY operand}...].
+CKTSourceReader::CopyStatement CKTSourceReader::ReadCopy(const std::vector<TextWord>& words,
+                                                         std::size_t at) {
+    CopyStatement copy;
+    copy.name = words[at++];
+    copy.end = at;
+    const auto is = [&words, &at](std::string_view word) {
+        return at < words.size() && IsWord(words[at], word);
+    };
+    if (at == words.size() ||
+        (words[at].kind != WordKind::Word && words[at].kind != WordKind::Literal)) {
+        copy.fault = "COPY names no copy file";
+        return copy;
+    }
+    const SourcePlace place = copy.name.place;
+    copy.name = words[at++];
+    copy.name.place = place;
+    if (is("OF") || is("IN")) {
+        copy.fault = "COPY from a named library is not supported";
+        return copy;
+    }
+    if (is("SUPPRESS")) {
+        ++at;
+        at += is("PRINTING") ? 1 : 0;
+    }
+    if (is("REPLACING")) {
+        ++at;
+        while (at < words.size() && words[at].kind != WordKind::Period) {
+            if (!ReadPair(words, at, copy.pairs.emplace_back())) {
+                copy.fault = "The REPLACING phrase of COPY cannot be read";
+                return copy;
+            }
+        }
+    }
+    if (at == words.size() || words[at].kind != WordKind::Period) {
+        copy.fault = "COPY does not end with a period";
+        return copy;
+    }
+    copy.end = at + 1;
+    return copy;
+}
+
+bool CKTSourceReader::ReadPair(const std::vector<TextWord>& words, std::size_t& at,
+                               Replacement& pair) {
+    if (IsWord(words[at], "LEADING") || IsWord(words[at], "TRAILING")) {
+        pair.part =
+            IsWord(words[at], "LEADING") ? Replacement::Part::Leading : Replacement::Part::Trailing;
+        ++at;
+    }
+    if (!ReadOperand(words, at, pair.from) || at == words.size() || !IsWord(words[at], "BY")) {
+        return false;
+    }
+    ++at;
+    if (!ReadOperand(words, at, pair.by) || pair.from.empty()) {
+        return false;
+    }
+    return pair.part == Replacement::Part::Whole || (pair.from.size() == 1 && pair.by.size() <= 1);
+}
+
+bool CKTSourceReader::ReadOperand(const std::vector<TextWord>& words, std::size_t& at,
+                                  std::vector<TextWord>& operand) {
+    if (at == words.size()) {
+        return false;
+    }
+    if (words[at].kind != WordKind::Pseudo) {
+        operand.push_back(words[at]);
+        return words[at++].kind != WordKind::Period;
+    }
+    while (++at < words.size()) {
+        if (words[at].kind == WordKind::Pseudo) {
+            ++at;
+            return true;
+        }
+        operand.push_back(words[at]);
+    }
+    return false;
+}

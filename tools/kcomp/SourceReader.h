@@ -1,0 +1,52 @@
+#ifndef DORVEX_KCOMP_SOURCEREADER_H
+#define DORVEX_KCOMP_SOURCEREADER_H
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "kcomp/CopyLibrary.h"
+#include "kcomp/Replacing.h"
+#include "kcomp/Report.h"
+#include "kcomp/SourceLines.h"
+#include "kcomp/TextWords.h"
+
+/// Reads a source with everything that its COPY statements bring in.
+class CKTSourceReader {
+public:
+    /// The report keeps the names of the files; both must outlive the reader.
+    CKTSourceReader(CKTReport& report, const CKTCopyLibrary& library)
+        : m_Report(report), m_Library(library) {}
+
+    /// Reads the file `path` and returns its words. `format` is the source's format when a
+    /// directive file names one; otherwise the text itself decides. Returns nothing, with a
+    /// complaint, when the file cannot be read. What is wrong inside (a copy file that is not
+    /// found, a literal without an end) becomes a fault among the words, for whoever needs them.
+    std::optional<std::vector<TextWord>> Read(const std::string& path,
+                                              std::optional<SourceFormat> format);
+
+private:
+    struct CopyStatement {
+        TextWord name;
+        std::vector<Replacement> pairs;
+        std::size_t end = 0;  // the index behind the period
+        std::string fault;    // the complaint about a statement that cannot be read
+    };
+
+    std::optional<std::vector<TextWord>> WordsOf(const std::string& path, SourceFormat& format,
+                                                 bool detect);
+    std::vector<TextWord> Expand(std::vector<TextWord> words, SourceFormat format);
+    std::vector<TextWord> Copied(const CopyStatement& copy, SourceFormat format);
+
+    static CopyStatement ReadCopy(const std::vector<TextWord>& words, std::size_t at);
+    static bool ReadPair(const std::vector<TextWord>& words, std::size_t& at, Replacement& pair);
+    static bool ReadOperand(const std::vector<TextWord>& words, std::size_t& at,
+                            std::vector<TextWord>& operand);
+
+    CKTReport& m_Report;
+    const CKTCopyLibrary& m_Library;
+    std::size_t m_nDepth = 0;
+    std::size_t m_nCopied = 0;  // words that COPY statements brought in, and a share for each file
+};
+
+#endif

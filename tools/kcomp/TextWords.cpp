@@ -1,0 +1,147 @@
+#include "kcomp/TextWords.h"
+
+#include <algorithm>
+#include <array>
+
+#include "kcomp/Text.h"
+
+namespace {
+
+constexpr std::array<std::string_view, 9> kLiteralPrefixes = {"X", "N",  "NX", "Z", "B",
+                                                              "G", "BX", "H",  "U"};
+
+bool IsQuote(char c) {
+    return c == '"' || c == '\'';
+}
+
+bool IsLiteralPrefix(std::string_view word) {
+    return std::find(kLiteralPrefixes.begin(), kLiteralPrefixes.end(), ToUpper(word)) !=
+           kLiteralPrefixes.end();
+}
+
+class CKTLineSplitter {
+public:
+    CKTLineSplitter(const LogicalLine& line, std::string_view file, std::vector<TextWord>& words)
+        : m_Line(line), m_sText(line.text), m_sFile(file), m_Words(words) {}
+
+    void Split() {
+        if (!m_Line.fault.empty()) {
+            m_Words.push_back({WordKind::Fault, false, m_Line.fault, Place()});
+            return;
+        }
+        while (m_nAt < m_sText.size()) {
+            if (m_sText[m_nAt] == ' ') {
+                m_bGlued = false;
+                ++m_nAt;
+            } else {
+                TakeWord();
+            }
+        }
+    }
+
+private:
+    void TakeWord() {
+        const char c = m_sText[m_nAt];
+        if (IsQuote(c)) {
+            TakeLiteral(m_nAt);
+        } else if (m_sText.substr(m_nAt, 2) == "==") {
+            Add(WordKind::Pseudo, m_nAt + 2);
+        } else if (c == '(' || c == ')' || c == ':') {
+            Add(WordKind::Mark, m_nAt + 1);
+        } else if (IsSeparator(m_nAt)) {
+            if (c == '.') {
+                Add(WordKind::Period, m_nAt + 1);
+            } else {
+                ++m_nAt;
+            }
+            m_bGlued = false;
+        } else {
+            TakePlainWord();
+        }
+    }
+
+    void TakePlainWord() {
+        std::size_t end = m_nAt;
+        while (end < m_sText.size() && !EndsWord(end)) {
+            ++end;
+        }
+        const bool literal = end < m_sText.size() && IsQuote(m_sText[end]) &&
+                             IsLiteralPrefix(m_sText.substr(m_nAt, end - m_nAt));
+        if (literal) {
+            TakeLiteral(end);
+        } else {
+            Add(WordKind::Word, end);
+        }
+    }
+
+    /// Takes the literal that begins here and whose first quotation mark stands at `quote`.
+    void TakeLiteral(std::size_t quote) {
+        const char mark = m_sText[quote];
+        std::size_t end = quote + 1;
+        for (;; ++end) {
+            end = m_sText.find(mark, end);
+            if (end == std::string_view::npos) {
+                m_Words.push_back({WordKind::Fault, false, "The literal has no end", Place()});
+                m_nAt = m_sText.size();
+                return;
+            }
+            if (m_sText.substr(end + 1, 1) != std::string_view(&mark, 1)) {
+                break;
+            }
+            ++end;  // a doubled mark stands for one of the text
+        }
+        Add(WordKind::Literal, end + 1);
+    }
+
+    [[nodiscard]] bool EndsWord(std::size_t at) const {
+        const char c = m_sText[at];
+        return c == ' ' || c == '(' || c == ')' || c == ':' || IsQuote(c) || IsSeparator(at) ||
+               m_sText.substr(at, 2) == "==";
+    }
+
+    /// A point, comma or semicolon ends a word when a blank or the line's end follows; a comma
+    /// also before a literal.
+    [[nodiscard]] bool IsSeparator(std::size_t at) const {
+        const char c = m_sText[at];
+        if (c != '.' && c != ',' && c != ';') {
+            return false;
+        }
+        return at + 1 == m_sText.size() || m_sText[at + 1] == ' ' ||
+               (c != '.' && IsQuote(m_sText[at + 1]));
+    }
+
+    void Add(WordKind kind, std::size_t end) {
+        m_Words.push_back(
+            {kind, m_bGlued, std::string(m_sText.substr(m_nAt, end - m_nAt)), Place()});
+        m_nAt = end;
+        m_bGlued = true;
+    }
+
+    [[nodiscard]] SourcePlace Place() const {
+        const auto after = std::upper_bound(
+            m_Line.segments.begin(), m_Line.segments.end(), m_nAt,
+            [](std::size_t at, const LogicalLine::Segment& s) { return at < s.offset; });
+        return {m_sFile, std::prev(after)->line};
+    }
+
+    const LogicalLine& m_Line;
+    std::string_view m_sText;
+    std::string_view m_sFile;
+    std::vector<TextWord>& m_Words;
+    std::size_t m_nAt = 0;
+    bool m_bGlued = false;
+};
+
+}  // namespace
+
+std::vector<TextWord> SplitIntoWords(const std::vector<LogicalLine>& lines, std::string_view file) {
+    std::vector<TextWord> words;
+    for (const LogicalLine& line : lines) {
+        CKTLineSplitter(line, file, words).Split();
+    }
+    return words;
+}
+
+bool IsWord(const TextWord& word, std::string_view spelling) {
+    return word.kind == WordKind::Word && SameWord(word.text, spelling);
+}

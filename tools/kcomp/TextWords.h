@@ -1,0 +1,34 @@
+#ifndef DORVEX_KCOMP_TEXTWORDS_H
+#define DORVEX_KCOMP_TEXTWORDS_H
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "kcomp/Report.h"
+#include "kcomp/SourceLines.h"
+
+enum class WordKind {
+    Word,     ///< a name, a keyword, a number, a piece of a PICTURE
+    Literal,  ///< with its quotation marks and the letters before them
+    Mark,     ///< a parenthesis or a colon
+    Pseudo,   ///< "==", an end of pseudo-text
+    Period,   ///< the end of an entry or statement
+    Fault     ///< what cannot be read; the text is the complaint
+};
+
+struct TextWord {
+    WordKind kind = WordKind::Word;
+    bool glued = false;  ///< stands right behind the word before it
+    std::string text;
+    SourcePlace place;
+};
+
+/// Splits logical lines into words; commas and semicolons between words are left out. `file` is
+/// the name for the places of the words. A literal without an end becomes a fault.
+std::vector<TextWord> SplitIntoWords(const std::vector<LogicalLine>& lines, std::string_view file);
+
+/// Whether the word is a Word of this spelling, in any case.
+bool IsWord(const TextWord& word, std::string_view spelling);
+
+#endif
