@@ -44,7 +44,10 @@ void LinkPrograms(const Case& test, const fs::path& program, const fs::path& too
     fs::create_directory(bin);
     fs::create_symlink(fs::canonical(program), bin / "dorvex");
     for (const std::string& name : test.tools) {
-        fs::create_symlink(fs::canonical(tools / name), bin / name);
+        // A program of the build, such as libexec/kcomp, or one of the tests' own.
+        const fs::path built = program.parent_path() / name;
+        fs::create_symlink(fs::canonical(fs::exists(built) ? built : tools / name),
+                           bin / fs::path(name).filename());
     }
 }
 
