@@ -1,0 +1,33 @@
+# What is installed beside the program, and the Debian package that cpack makes of it.
+install(FILES docs/dorvex.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+install(FILES packaging/dorvex.bash-completion
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME dorvex)
+install(DIRECTORY examples DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME dorvex)
+set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
+set(CPACK_PACKAGE_CONTACT "The dorvex authors <dorvex@ostrel.example>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "converter between COBOL record layouts and XML Schema")
+set(CPACK_PACKAGE_DESCRIPTION
+"dorvex turns an XML Schema into a COBOL copybook and a COBOL source into an
+XML Schema, for programs that read and write XML through the XML-syntax
+extensions of their compiler. The copybooks tie each data item to its XML
+element or attribute. It also checks schemas and documents.
+.
+A stand-in for the compiler, which writes the data dictionary of a record
+layout, is in /usr/libexec/dorvex.")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION devel)
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS bash-completion)
+set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+# The texts that only a Debian package holds join the staged files before they are packed.
+set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/DebianTexts.cmake")
+set(CPACK_VERBATIM_VARIABLES ON)
+include(CPack)
