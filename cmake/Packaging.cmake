@@ -2,6 +2,7 @@
 install(FILES docs/dorvex.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 install(FILES packaging/dorvex.bash-completion
     DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME dorvex)
+install(FILES docs/guide.md docs/messages.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 install(DIRECTORY examples DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 
 set(CPACK_GENERATOR DEB)
