@@ -3,7 +3,20 @@ install(FILES docs/dorvex.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 install(FILES packaging/dorvex.bash-completion
     DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME dorvex)
 install(FILES docs/guide.md docs/messages.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
-install(DIRECTORY examples DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+# By name: whoever tries the examples in their directory leaves the outputs there.
+set(examples
+    catalogue-types.xsd
+    catalogue.xsd
+    claim-party.cpy
+    claims.cbl
+    customer.cpy
+    order.xml
+    order.xsd
+    payment-types.xsd
+    payment.xsd
+)
+list(TRANSFORM examples PREPEND examples/)
+install(FILES ${examples} DESTINATION "${CMAKE_INSTALL_DOCDIR}/examples")
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME dorvex)
