@@ -44,22 +44,26 @@ struct DataItem {
     std::string name;  ///< empty for FILLER
     SourcePlace place;
     std::string picture;
+    SourcePlace picturePlace;
     Usage usage = Usage::None;
-    std::size_t binaryDigits = 0;  ///< of a binary type that has a size of its own: its digits
+    std::size_t binaryDigits = 0;  ///< of a binary type that has a size of its own: its digits,
+    std::string binaryPicture;     ///< and the PICTURE that stands for it
     SignPosition sign = SignPosition::None;
+    bool isConstant = false;
     bool justified = false;
     bool blankWhenZero = false;
     std::string minOccurs;
     std::string maxOccurs;
     std::string odo;
     std::string redefines;
-    std::string renames;         ///< of level 66: the first item, with its qualifiers
-    std::string renamesThrough;  ///< the last one
+    std::string renames;         ///< of level 66: the first item, with its qualifiers until the
+    std::string renamesThrough;  ///< record is complete; and the last one
     std::vector<ItemValue> values;
     /// Clauses that go into the dictionary as they are: attribute and text.
     std::vector<std::pair<std::string, std::string>> notes;
 
     DataItem* parent = nullptr;
+    DataItem* redefined = nullptr;                    ///< what the item redefines
     std::vector<std::unique_ptr<DataItem>> children;  ///< condition-names among them
 
     // What the clauses mean together; set once the record is complete.

@@ -39,6 +39,11 @@ bool IsUtf8(std::string_view text) {
     return true;
 }
 
+/// What no document can hold; it can only come from the name of a file.
+bool IsControl(char c) {
+    return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
+}
+
 std::string_view ElementOf(const DataItem& item) {
     if (item.isGroup) {
         return "group";
@@ -110,7 +115,7 @@ private:
 
     /// Nests no deeper than levels do.
     void WriteItem(const DataItem& item) {
-        if (item.level == kConstantLevel) {
+        if (item.isConstant) {
             WriteConstant(item);
             return;
         }
@@ -239,7 +244,7 @@ private:
                     m_sText += "&quot;";
                     break;
                 default:
-                    m_sText += c;
+                    m_sText += IsControl(c) ? '?' : c;
             }
         }
         m_sText += '"';

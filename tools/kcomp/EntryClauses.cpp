@@ -1,6 +1,5 @@
 // The clauses of a data description entry.
 #include <algorithm>
-#include <array>
 
 #include "kcomp/EntryReader.h"
 #include "kcomp/Text.h"
@@ -105,9 +104,10 @@ void CKTEntryReader::ReadIndexed() {
     m_pItem->notes.emplace_back("indexedBy", TakeNames());
 }
 
-// "IS" before EXTERNAL, GLOBAL and ATTRIBUTE says nothing of its own.
+// "IS" says nothing of its own; what may follow it is a clause.
 void CKTEntryReader::ReadIs() {
-    if (!IsOneOf({"ATTRIBUTE", "EXTERNAL", "GLOBAL"})) {
+    const bool clause = m_nAt < m_Words.size() && ClauseOf(m_Words[m_nAt]) != nullptr;
+    if (clause && !IsOneOf({"ATTRIBUTE", "EXTERNAL", "GLOBAL"})) {
         Fail("\"IS\" is not expected here");
     }
 }
@@ -118,10 +118,21 @@ void CKTEntryReader::ReadJustified() {
 }
 
 void CKTEntryReader::ReadKey() {
-    const bool ascending = IsWord(m_Words[m_nAt - 1], "ASCENDING");
+    const bool ascending = Skip("ASCENDING");
+    Skip("DESCENDING");
     Skip("KEY");
     Skip("IS");
-    m_pItem->notes.emplace_back(ascending ? "ascendingKey" : "descendingKey", TakeNames());
+    m_bKeys = true;
+    // A second key of the same direction continues the list: an attribute stands once.
+    const std::string note = ascending ? "ascendingKey" : "descendingKey";
+    const std::string names = TakeNames();
+    for (auto& [attribute, text] : m_pItem->notes) {
+        if (attribute == note) {
+            text += ' ' + names;
+            return;
+        }
+    }
+    m_pItem->notes.emplace_back(note, names);
 }
 
 void CKTEntryReader::ReadNamespace() {
@@ -130,17 +141,18 @@ void CKTEntryReader::ReadNamespace() {
 }
 
 void CKTEntryReader::ReadNote() {
-    const bool global = IsWord(m_Words[m_nAt - 1], "GLOBAL");
+    const bool global = Skip("GLOBAL");
+    Skip("BASED");
     m_pItem->notes.emplace_back(global ? "global" : "based", "true");
 }
 
 void CKTEntryReader::ReadOccurs() {
-    constexpr std::string_view kUnbounded = "unbounded";
-    const std::string first = Skip("UNBOUNDED") ? std::string(kUnbounded) : TakeInteger();
-    m_pItem->maxOccurs = first;
-    if (Skip("TO")) {
-        m_pItem->minOccurs = first;
-        m_pItem->maxOccurs = Skip("UNBOUNDED") ? std::string(kUnbounded) : TakeInteger();
+    const std::size_t start = m_nAt;
+    const auto take = [this] { return Skip("UNBOUNDED") ? "unbounded" : TakeInteger(); };
+    m_pItem->maxOccurs = take();
+    if (IsDigits(m_pItem->maxOccurs) && Skip("TO")) {
+        m_pItem->minOccurs = m_pItem->maxOccurs;
+        m_pItem->maxOccurs = take();
     }
     Skip("TIMES");
     if (m_bFailed) {
@@ -150,13 +162,14 @@ void CKTEntryReader::ReadOccurs() {
     const long maximum = bounded ? std::stol(m_pItem->maxOccurs) : 0;
     const bool rising = m_pItem->minOccurs.empty() || std::stol(m_pItem->minOccurs) < maximum;
     if (bounded && (maximum == 0 || !rising)) {
-        Fail("OCCURS has no rising bounds");
+        FailAt(start, "OCCURS has no rising bounds");
     }
 }
 
 void CKTEntryReader::ReadPicture() {
     Skip("IS");
     std::string text;
+    m_pItem->picturePlace = m_Words[std::min(m_nAt, m_Words.size() - 1)].place;
     const auto isPiece = [this, &text] {
         if (m_nAt == m_Words.size()) {
             return false;
@@ -224,7 +237,7 @@ void CKTEntryReader::ReadUsageWord() {
     }
     const UsageWord* word = UsageOf(m_Words[m_nAt].text);
     if (word == nullptr) {
-        Fail("USAGE " + Quoted(m_Words[m_nAt].text) + " is not supported");
+        Fail("USAGE " + ShownWord(m_Words[m_nAt]) + " is not supported");
         return;
     }
     ++m_nAt;
@@ -236,10 +249,7 @@ void CKTEntryReader::ReadUsageWord() {
     const bool isSigned = !Skip("UNSIGNED");
     constexpr std::size_t kSignedDouble = 19;
     m_pItem->binaryDigits = word->digits + (!isSigned && word->digits == kSignedDouble ? 1 : 0);
-    if (!m_Seen.insert("PICTURE").second) {
-        Fail("A binary type has no PICTURE");
-    }
-    m_pItem->picture = (isSigned ? "S" : "") + std::string(word->picture);
+    m_pItem->binaryPicture = (isSigned ? "S" : "") + std::string(word->picture);
 }
 
 void CKTEntryReader::ReadValue() {

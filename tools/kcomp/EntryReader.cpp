@@ -9,43 +9,44 @@
 const CKTEntryReader::Clause* CKTEntryReader::ClauseOf(const TextWord& word) {
     using R = CKTEntryReader;
     static const std::unordered_map<std::string, Clause> clauses = {
-        {"ASCENDING", {"", &R::ReadKey}},
+        {"ASCENDING", {"", &R::ReadKey, true}},
         {"ATTRIBUTE", {"ATTRIBUTE", &R::ReadAttribute}},
-        {"BASED", {"BASED", &R::ReadNote}},
+        {"BASED", {"BASED", &R::ReadNote, true}},
         {"BLANK", {"BLANK WHEN ZERO", &R::ReadBlank}},
         {"CONSTANT", {"CONSTANT", &R::ReadConstant}},
         {"COUNT", {"COUNT IN", &R::ReadCountIn}},
         {"DEPENDING", {"DEPENDING ON", &R::ReadDepending}},
-        {"DESCENDING", {"", &R::ReadKey}},
+        {"DESCENDING", {"", &R::ReadKey, true}},
         {"EXTERNAL", {"EXTERNAL", &R::ReadExternal}},
         {"FALSE", {"FALSE", &R::ReadFalse}},
-        {"GLOBAL", {"GLOBAL", &R::ReadNote}},
+        {"GLOBAL", {"GLOBAL", &R::ReadNote, true}},
         {"IDENTIFIED", {"IDENTIFIED BY", &R::ReadIdentified}},
         {"INDEXED", {"INDEXED BY", &R::ReadIndexed}},
         {"IS", {"", &R::ReadIs}},
         {"JUST", {"JUSTIFIED", &R::ReadJustified}},
         {"JUSTIFIED", {"JUSTIFIED", &R::ReadJustified}},
-        {"LEADING", {"SIGN", &R::ReadSign}},
+        {"LEADING", {"SIGN", &R::ReadSign, true}},
         {"NAMESPACE", {"NAMESPACE", &R::ReadNamespace}},
         {"OCCURS", {"OCCURS", &R::ReadOccurs}},
         {"PIC", {"PICTURE", &R::ReadPicture}},
         {"PICTURE", {"PICTURE", &R::ReadPicture}},
         {"REDEFINES", {"REDEFINES", &R::ReadRedefines}},
         {"RENAMES", {"RENAMES", &R::ReadRenames}},
-        {"SIGN", {"SIGN", &R::ReadSign}},
+        {"SIGN", {"SIGN", &R::ReadSign, true}},
         {"SYNC", {"SYNCHRONIZED", &R::ReadSynchronized}},
         {"SYNCHRONIZED", {"SYNCHRONIZED", &R::ReadSynchronized}},
-        {"TRAILING", {"SIGN", &R::ReadSign}},
+        {"TRAILING", {"SIGN", &R::ReadSign, true}},
         {"USAGE", {"USAGE", &R::ReadUsage}},
         {"VALUE", {"VALUE", &R::ReadValue}},
         {"VALUES", {"VALUE", &R::ReadValue}},
         {"WHEN", {"FALSE", &R::ReadFalse}},
     };
-    if (word.kind != WordKind::Word) {
+    constexpr std::size_t kLongestKeyword = 20;
+    if (word.kind != WordKind::Word || word.text.size() > kLongestKeyword) {
         return nullptr;
     }
     if (IsUsageWord(word.text)) {
-        static const Clause usage = {"USAGE", &R::ReadUsageWord};
+        static const Clause usage = {"USAGE", &R::ReadUsageWord, true};
         return &usage;
     }
     const auto found = clauses.find(ToUpper(word.text));
@@ -61,7 +62,7 @@ std::unique_ptr<DataItem> CKTEntryReader::Read() {
     if (!m_bFailed) {
         CheckEntry();
     }
-    return m_bFailed ? nullptr : std::move(m_pItem);
+    return std::move(m_pItem);
 }
 
 void CKTEntryReader::ReadLevelAndName() {
@@ -76,7 +77,9 @@ void CKTEntryReader::ReadLevelAndName() {
         return;
     }
     m_nAt = 1;
-    if (m_nAt == m_Words.size() || ClauseOf(m_Words[m_nAt]) != nullptr) {
+    // These begin a clause, but no compiler reserves them, so here they are names.
+    const bool soft = IsOneOf({"ATTRIBUTE", "IDENTIFIED", "NAMESPACE"});
+    if (m_nAt == m_Words.size() || (ClauseOf(m_Words[m_nAt]) != nullptr && !soft)) {
         return;
     }
     const std::string name = TakeName();
@@ -87,11 +90,10 @@ void CKTEntryReader::ReadClause() {
     const TextWord& word = m_Words[m_nAt];
     const Clause* clause = ClauseOf(word);
     if (clause == nullptr) {
-        if (word.kind == WordKind::Word && IsDigits(word.text)) {
-            m_Context.report.Error(word.place, "The period before " + word.text + " is missing");
-            m_bFailed = true;
+        if (BeginsLine(m_nAt) && IsDigits(word.text)) {
+            FailForPeriod(m_nAt);
         } else {
-            Fail("Clause " + Quoted(word.text) + " is not supported");
+            Fail("Clause " + ShownWord(word) + " is not supported");
         }
         return;
     }
@@ -99,10 +101,7 @@ void CKTEntryReader::ReadClause() {
         Fail("Clause " + std::string(clause->name) + " is given twice");
         return;
     }
-    if (clause->handler != &CKTEntryReader::ReadUsageWord &&
-        clause->handler != &CKTEntryReader::ReadSign) {
-        ++m_nAt;
-    }
+    m_nAt += clause->takesKeyword ? 0 : 1;
     (this->*clause->handler)();
 }
 
@@ -127,7 +126,7 @@ void CKTEntryReader::CheckEntry() {
             !only({"VALUE", "CONSTANT", "GLOBAL"})) {
             Fail("A constant has a name, one value and nothing else");
         }
-        m_pItem->level = kConstantLevel;
+        m_pItem->isConstant = true;
     } else if (!item.renames.empty()) {
         Fail("RENAMES belongs to level 66");
     } else if (item.values.size() > 1 ||
@@ -141,8 +140,8 @@ void CKTEntryReader::CheckEntry() {
 void CKTEntryReader::CheckOccurs() {
     const DataItem& item = *m_pItem;
     if (item.maxOccurs.empty()) {
-        if (!item.odo.empty() || m_Seen.contains("INDEXED BY")) {
-            Fail("DEPENDING ON and INDEXED BY belong to an OCCURS clause");
+        if (!item.odo.empty() || m_Seen.contains("INDEXED BY") || m_bKeys) {
+            Fail("DEPENDING ON, INDEXED BY and keys belong to an OCCURS clause");
         }
     } else if (item.odo.empty() && !item.minOccurs.empty()) {
         Fail("OCCURS with TO needs DEPENDING ON");
@@ -166,12 +165,24 @@ bool CKTEntryReader::Skip(std::string_view word) {
     return there;
 }
 
-/// Complains once, at the word that is read.
-void CKTEntryReader::Fail(std::string_view text) {
+bool CKTEntryReader::BeginsLine(std::size_t at) const {
+    return at > 0 && m_Words[at].place.line != m_Words[at - 1].place.line;
+}
+
+/// Complains once, at the word `at`, and leaves the rest of the entry unread. Where a fault stands
+/// instead of a word, it is the reason.
+void CKTEntryReader::FailAt(std::size_t at, std::string_view text) {
     if (!m_bFailed) {
-        const std::size_t at = std::min(m_nAt, m_Words.size() - 1);
-        m_Context.report.Error(m_Words[at].place, text);
+        const TextWord& word = m_Words[std::min(at, m_Words.size() - 1)];
+        m_Context.report.Error(word.place, word.kind == WordKind::Fault ? word.text : text);
         m_nAt = m_Words.size();
         m_bFailed = true;
     }
+}
+
+/// Complains of the period that is missing before the level number at `at`, where the next entry
+/// begins.
+void CKTEntryReader::FailForPeriod(std::size_t at) {
+    FailAt(at, "The period before " + m_Words[at].text + " is missing");
+    m_nAt = at;
 }

@@ -31,9 +31,11 @@ public:
     CKTEntryReader(std::span<TextWord> words, ReadingContext& context)
         : m_Words(words), m_Context(context) {}
 
-    /// Returns the item, or nothing after one complaint. A named constant comes as an item of
-    /// level 78 with its value.
+    /// Returns the item. After one complaint it may lack clauses, and `Failed` says so. A named
+    /// constant has the level 78 or the clause CONSTANT, and its value.
     std::unique_ptr<DataItem> Read();
+
+    [[nodiscard]] bool Failed() const { return m_bFailed; }
 
     /// The number of words that were read. Less than all when a level number stands inside the
     /// entry, because the period before it is missing; that is complained of.
@@ -42,8 +44,9 @@ public:
 private:
     using Handler = void (CKTEntryReader::*)();
     struct Clause {
-        std::string_view name;  // the same for all spellings
+        std::string_view name;  // the same for all spellings; empty when it may come twice
         Handler handler;
+        bool takesKeyword = false;  // the keyword says which of several things is meant
     };
 
     static const Clause* ClauseOf(const TextWord& word);
@@ -87,14 +90,20 @@ private:
     std::string TakeLiteralText();
     std::string TakeValue();
     std::string TakeWordValue();
+    void FailBecauseOfWord();
     [[nodiscard]] const std::string* ConstantOf(std::string_view name) const;
-    void Fail(std::string_view text);
+    void Fail(std::string_view text) { FailAt(m_nAt, text); }
+    [[nodiscard]] bool BeginsLine(std::size_t at) const;
+    void FailAt(std::size_t at, std::string_view text);
+    void FailForPeriod(std::size_t at);
 
     std::span<TextWord> m_Words;
     ReadingContext& m_Context;
     std::unique_ptr<DataItem> m_pItem;
     std::size_t m_nAt = 0;
+    std::size_t m_nPiece = 0;  // where the next number begins in a word such as 1,2,3
     std::set<std::string_view> m_Seen;
+    bool m_bKeys = false;
     bool m_bFailed = false;
 };
 

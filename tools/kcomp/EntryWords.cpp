@@ -64,7 +64,7 @@ std::string CKTEntryReader::TakeName() {
         IsName(m_Words[m_nAt].text)) {
         return m_Words[m_nAt++].text;
     }
-    Fail(m_nAt < m_Words.size() ? Quoted(m_Words[m_nAt].text) + " is no name"
+    Fail(m_nAt < m_Words.size() ? ShownWord(m_Words[m_nAt]) + " is no name"
                                 : "A name is missing at the end of the entry");
     return {};
 }
@@ -109,14 +109,7 @@ std::string CKTEntryReader::TakeLiteralText() {
         Fail("A literal is expected");
         return {};
     }
-    const std::string& literal = m_Words[m_nAt++].text;
-    const std::size_t quote = literal.find_first_of("\"'");
-    std::string text;
-    for (std::size_t i = quote + 1; i + 1 < literal.size(); ++i) {
-        text += literal[i];
-        i += literal[i] == literal[quote] ? 1 : 0;
-    }
-    return text;
+    return TextOfLiteral(m_Words[m_nAt++]);
 }
 
 /// A value as the dictionary holds it: a number, a literal, a figurative constant, or what a named
@@ -145,23 +138,35 @@ std::string CKTEntryReader::TakeWordValue() {
         Fail("A value is missing at the end of the entry");
         return {};
     }
-    TextWord& word = m_Words[m_nAt];
+    const TextWord& word = m_Words[m_nAt];
     const char point = m_Context.symbols.decimalComma ? ',' : '.';
     // Commas without blanks behind them separate numbers as well.
-    const std::size_t comma = point == ',' ? std::string::npos : word.text.find(',');
-    std::string text = word.text.substr(0, comma);
-    const bool number = word.kind == WordKind::Word && IsNumber(text, point);
-    if (comma != std::string::npos && number) {
-        word.text.erase(0, comma + 1);
+    const std::size_t comma = point == ',' ? std::string::npos : word.text.find(',', m_nPiece);
+    const std::string text = word.text.substr(m_nPiece, comma - m_nPiece);
+    if (word.kind == WordKind::Word && IsNumber(text, point)) {
+        m_nPiece = comma == std::string::npos ? 0 : comma + 1;
+        m_nAt += comma == std::string::npos ? 1 : 0;
         return text;
     }
-    const std::string* constant = ConstantOf(word.text);
-    if (!number && !(word.kind == WordKind::Word && IsFigurative(text)) && constant == nullptr) {
-        Fail(Quoted(word.text) + " is no value");
+    const std::string* constant = ConstantOf(text);
+    if (word.kind != WordKind::Word || (constant == nullptr && !IsFigurative(text))) {
+        FailBecauseOfWord();
         return {};
     }
     ++m_nAt;
     return constant == nullptr ? text : *constant;
+}
+
+/// What is no value may be the name of the next entry, whose level number looked like a value.
+void CKTEntryReader::FailBecauseOfWord() {
+    constexpr std::size_t kLevelDigits = 2;
+    const TextWord& before = m_Words[m_nAt - 1];
+    if (BeginsLine(m_nAt - 1) && m_Words[m_nAt].kind == WordKind::Word && IsDigits(before.text) &&
+        before.text.size() <= kLevelDigits) {
+        FailForPeriod(m_nAt - 1);
+    } else {
+        Fail(ShownWord(m_Words[m_nAt]) + " is no value");
+    }
 }
 
 const std::string* CKTEntryReader::ConstantOf(std::string_view name) const {

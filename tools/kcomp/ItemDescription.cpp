@@ -10,6 +10,7 @@ namespace {
 constexpr std::size_t kLargest = std::numeric_limits<int>::max();
 constexpr std::size_t kPointerSize = 8;
 constexpr std::size_t kIndexSize = 4;
+constexpr std::size_t kDigitsOfByte = 3;
 
 std::string_view UsageText(Usage usage) {
     switch (usage) {
@@ -56,10 +57,10 @@ std::size_t SizeOf(const DataItem& item) {
         case Usage::Comp2:
             return 8;
         case Usage::Comp3:
-            return item.description.digits / 2 + 1;
+            return item.description.length / 2 + 1;
         case Usage::Comp4:
         case Usage::Comp5:
-            return BinarySize(item.description.length);
+            return item.binaryDigits == kDigitsOfByte ? 1 : BinarySize(item.description.length);
         case Usage::Index:
             return kIndexSize;
         case Usage::Pointer:
@@ -74,26 +75,38 @@ std::size_t SizeOf(const DataItem& item) {
     return item.description.length + (separate ? 1 : 0);
 }
 
+/// What an item takes over from the groups above it.
+struct Inherited {
+    Usage usage = Usage::None;
+    std::size_t binaryDigits = 0;
+    std::string_view binaryPicture;
+    SignPosition sign = SignPosition::None;
+};
+
 class CKTItemDescriber {
 public:
     explicit CKTItemDescriber(ReadingContext& context) : m_Context(context) {}
 
     /// Nests no deeper than levels do.
-    void Describe(DataItem& item, Usage usage, SignPosition sign, std::size_t offset) {
-        usage = item.usage == Usage::None ? usage : item.usage;
-        const SignPosition inherited = item.sign == SignPosition::None ? sign : item.sign;
+    void Describe(DataItem& item, Inherited clauses, std::size_t offset) {
+        if (item.usage != Usage::None) {
+            clauses.usage = item.usage;
+            clauses.binaryDigits = item.binaryDigits;
+            clauses.binaryPicture = item.binaryPicture;
+        }
+        clauses.sign = item.sign == SignPosition::None ? clauses.sign : item.sign;
         item.offset = offset;
         if (item.isGroup) {
-            DescribeGroup(item, usage, inherited);
+            DescribeGroup(item, clauses);
         } else {
-            DescribeElementary(item, usage, inherited);
+            DescribeElementary(item, clauses);
         }
         const std::size_t times = IsDigits(item.maxOccurs) ? std::stoul(item.maxOccurs) : 1;
         item.storage = std::min(std::min(item.storage, kLargest) * times, kLargest);
     }
 
 private:
-    void DescribeGroup(DataItem& group, Usage usage, SignPosition sign) {
+    void DescribeGroup(DataItem& group, const Inherited& clauses) {
         if (group.justified || group.blankWhenZero) {
             Complain(group, "is a group, which is neither JUSTIFIED nor BLANK WHEN ZERO");
         }
@@ -102,40 +115,39 @@ private:
             if (child->level > kHighestLevel) {
                 continue;
             }
-            const std::size_t begin = child->redefines.empty() ? end : OffsetOf(*child);
-            Describe(*child, usage, sign, begin);
+            const std::size_t begin = child->redefined == nullptr ? end : child->redefined->offset;
+            Describe(*child, clauses, begin);
             end = std::max(end, begin + child->storage);
-            m_Offsets[child->parent][ToUpper(child->name)] = child->offset;
         }
-        m_Offsets.erase(&group);
         group.storage = end - group.offset;
     }
 
-    std::size_t OffsetOf(const DataItem& redefinition) {
-        return m_Offsets[redefinition.parent][ToUpper(redefinition.redefines)];
-    }
-
-    void DescribeElementary(DataItem& item, Usage usage, SignPosition sign) {
-        item.usage = usage == Usage::None ? Usage::Display : usage;
+    void DescribeElementary(DataItem& item, const Inherited& clauses) {
+        item.usage = clauses.usage == Usage::None ? Usage::Display : clauses.usage;
+        item.binaryDigits = clauses.binaryDigits;
         if (StandsAlone(item.usage)) {
             item.category = Category::Numeric;
-            if (!item.picture.empty()) {
-                Complain(item, "has a usage that takes no PICTURE");
+            if (!item.picture.empty() || item.justified || item.blankWhenZero) {
+                Complain(item, "has a usage that takes neither PICTURE nor JUSTIFIED nor BLANK");
             }
-        } else if (item.picture.empty()) {
-            Complain(item, "has neither a PICTURE nor items below it");
+        } else if (item.picture.empty() == clauses.binaryPicture.empty()) {
+            Complain(item, item.picture.empty() ? "has neither a PICTURE nor items below it"
+                                                : "has a binary type, which takes no PICTURE");
             return;
-        } else if (!ReadItemPicture(item)) {
+        } else if (!ReadItemPicture(item, clauses)) {
             return;
         }
-        DescribeSign(item, sign);
+        DescribeSign(item, clauses.sign);
         item.storage = SizeOf(item);
     }
 
-    bool ReadItemPicture(DataItem& item) {
+    bool ReadItemPicture(DataItem& item, const Inherited& clauses) {
+        if (item.picture.empty()) {
+            item.picture = clauses.binaryPicture;
+        }
         item.description = ReadPicture(item.picture, m_Context.symbols);
         if (!item.description.fault.empty()) {
-            m_Context.report.Error(item.place, item.description.fault);
+            m_Context.report.Error(item.picturePlace, item.description.fault);
             return false;
         }
         item.category = item.description.category;
@@ -172,7 +184,8 @@ private:
         if (!item.blankWhenZero) {
             return true;
         }
-        if (text || item.description.isSigned || IsBinaryOrPacked(item.usage)) {
+        if (text || item.description.isSigned || IsBinaryOrPacked(item.usage) ||
+            item.picture.find('*') != std::string::npos) {
             Complain(item, "cannot be BLANK WHEN ZERO");
             return false;
         }
@@ -197,11 +210,10 @@ private:
     }
 
     ReadingContext& m_Context;
-    std::unordered_map<const DataItem*, std::unordered_map<std::string, std::size_t>> m_Offsets;
 };
 
 }  // namespace
 
 void DescribeItem(DataItem& item, ReadingContext& context) {
-    CKTItemDescriber(context).Describe(item, Usage::None, SignPosition::None, 0);
+    CKTItemDescriber(context).Describe(item, {}, 0);
 }

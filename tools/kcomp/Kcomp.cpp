@@ -1,6 +1,10 @@
 // kcomp: reads the data descriptions of a COBOL source and writes its data dictionary, where the
 // compiler is not at hand. It checks what it reads and compiles nothing.
+#include <unistd.h>
+
+#include <algorithm>
 #include <cstdlib>
+#include <deque>
 #include <exception>
 #include <filesystem>
 #include <fstream>
@@ -81,13 +85,23 @@ std::string StemOf(const std::string& path) {
     return dot == std::string::npos || dot <= name ? path : path.substr(0, dot);
 }
 
+/// Writes under another name first, so that a dictionary is whole or not there, and nothing that
+/// cannot be written to is lost.
 void WriteDictionary(const std::string& path, const std::string& text, CKTReport& report) {
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    const std::string temporary = path + '.' + std::to_string(::getpid());
+    std::ofstream file(temporary, std::ios::binary | std::ios::trunc);
+    const bool opened = file.is_open();
     file << text;
     file.close();
-    if (!file) {
+    std::error_code failed;
+    if (file) {
+        std::filesystem::rename(temporary, path, failed);
+    }
+    if (!file || failed) {
         std::error_code ignored;
-        std::filesystem::remove(path, ignored);
+        if (opened) {
+            std::filesystem::remove(temporary, ignored);
+        }
         report.Error({}, "The data dictionary " + Quoted(path) + " cannot be written");
     }
 }
@@ -95,6 +109,13 @@ void WriteDictionary(const std::string& path, const std::string& text, CKTReport
 void Run(const Arguments& arguments, CKTReport& report) {
     if (arguments.source.empty()) {
         report.Error({}, "No source is given");
+        return;
+    }
+    const std::string stem = StemOf(arguments.source);
+    const std::string dictionary = stem + ".xml";
+    if (dictionary == arguments.source) {
+        report.Error({report.KeepName(arguments.source), 1},
+                     "The source has the name of its dictionary");
         return;
     }
     std::optional<SourceFormat> format;
@@ -108,12 +129,12 @@ void Run(const Arguments& arguments, CKTReport& report) {
     if (!words) {
         return;
     }
-    const std::string stem = StemOf(arguments.source);
     const std::string name = stem.substr(stem.rfind('/') + 1);
-    CKTProgramReader reader(std::move(*words), name, report);
+    const SourcePlace start = {report.KeepName(arguments.source), 1};
+    CKTProgramReader reader(std::move(*words), name, start, report);
     const std::deque<ProgramData> programs = reader.Read();
     if (report.Errors() == 0 && arguments.wantsDictionary) {
-        WriteDictionary(stem + ".xml", DictionaryOf(programs), report);
+        WriteDictionary(dictionary, DictionaryOf(programs), report);
     }
 }
 

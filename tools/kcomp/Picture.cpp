@@ -14,6 +14,7 @@ namespace {
 
 constexpr std::size_t kLongest = std::numeric_limits<int>::max();
 constexpr std::size_t kMostDigits = 38;
+constexpr std::size_t kMostExponentDigits = 4;
 
 struct Run {
     char symbol;  // upper case; C and D stand for CR and DB, $ for the currency sign, . for the
@@ -164,8 +165,8 @@ private:
         return true;
     }
 
-    /// A sign stands at an end, a currency sign before the digits, a floating string before the
-    /// first 9.
+    /// A sign stands at an end, a currency sign in front behind a sign, a floating string before
+    /// the first 9 and instead of other suppression.
     [[nodiscard]] bool SignsFit(const std::string& shape) const {
         const std::size_t digit = std::min(shape.find('9'), shape.size());
         for (const char symbol : {'+', '-', '$'}) {
@@ -174,9 +175,10 @@ private:
                 continue;
             }
             const bool floats = Count(std::string_view(&symbol, 1)) > 1;
-            const bool atFront = shape.find_first_not_of("+-$") > first;
+            const bool behindSign = symbol == '$' && shape.find_last_of("+-", first) == 0;
+            const bool atFront = first == 0 || (behindSign && first == 1);
             const bool atEnd = symbol != '$' && first == shape.size() - 1;
-            if (floats ? shape.rfind(symbol) > digit : !atFront && !atEnd) {
+            if (floats ? shape.rfind(symbol) > digit || Count("Z*") > 0 : !atFront && !atEnd) {
                 return false;
             }
         }
@@ -185,8 +187,7 @@ private:
 
     [[nodiscard]] static bool ScalingFits(const std::string& shape) {
         const std::size_t scaling = shape.find('P');
-        return scaling == std::string::npos ||
-               (scaling == shape.rfind('P') && (scaling == 0 || scaling == shape.size() - 1));
+        return scaling == std::string::npos || scaling == shape.size() - 1;
     }
 
     /// Digit positions of a floating string: all but its first symbol.
@@ -195,22 +196,24 @@ private:
         return count > 1 ? count - 1 : 0;
     }
 
-    /// A mantissa with its sign, E, and an exponent of two digits with its sign.
+    /// A mantissa, E, and an exponent with its sign; the mantissa may have one.
     bool ReadFloating() {
         const std::string shape = Shape();
         const std::size_t e = shape.find('E');
-        if (e == std::string::npos || e < 2 || Count("E") != 1) {
+        if (e == std::string::npos || Count("E") != 1) {
             return false;
         }
-        constexpr std::array<std::string_view, 6> mantissas = {"9.9", "9.", ".9",
-                                                               "9V9", "9V", "V9"};
-        const auto isSign = [](char c) { return c == '+' || c == '-'; };
-        const bool mantissa = isSign(shape[0]) && Count("V.") == 1 &&
-                              std::find(mantissas.begin(), mantissas.end(),
-                                        shape.substr(1, e - 1)) != mantissas.end();
-        const bool exponent = shape.size() == e + 3 && isSign(shape[e + 1]) &&
-                              shape[e + 2] == '9' && m_Runs.back().count == 2 &&
-                              m_Runs[0].count == 1 && m_Runs[e + 1].count == 1;
+        constexpr std::array<std::string_view, 7> mantissas = {"9",   "9.9", "9.", ".9",
+                                                               "9V9", "9V",  "V9"};
+        const auto isSign = [this](std::size_t at) {
+            return (m_Runs[at].symbol == '+' || m_Runs[at].symbol == '-') && m_Runs[at].count == 1;
+        };
+        const std::size_t start = isSign(0) ? 1 : 0;
+        const bool mantissa =
+            Count("V.") <= 1 && std::find(mantissas.begin(), mantissas.end(),
+                                          shape.substr(start, e - start)) != mantissas.end();
+        const bool exponent = shape.size() == e + 3 && isSign(e + 1) && shape[e + 2] == '9' &&
+                              m_Runs.back().count <= kMostExponentDigits;
         m_Picture.category = Category::NumericEdited;
         m_Picture.length = Count("9.+-E");
         return mantissa && exponent;
@@ -234,7 +237,8 @@ Picture ReadPicture(std::string_view text, const PictureSymbols& symbols) {
         failed.fault = "PICTURE " + Quoted(text) + " fits no category of data";
     } else if (picture->digits > kMostDigits) {
         failed.fault = "PICTURE " + Quoted(text) + " has more than 38 digits";
-    } else if (picture->length > kLongest) {
+    } else if (picture->length >
+               (picture->category == Category::National ? kLongest / 2 : kLongest)) {
         failed.fault = "PICTURE " + Quoted(text) + " is too long";
     }
     return failed.fault.empty() ? *picture : failed;

@@ -21,8 +21,12 @@ bool IsLevel(const TextWord& word) {
 
 }  // namespace
 
-CKTProgramReader::CKTProgramReader(std::vector<TextWord> words, std::string name, CKTReport& report)
-    : m_Words(std::move(words)), m_sName(std::move(name)), m_Context{report, {}, {}} {}
+CKTProgramReader::CKTProgramReader(std::vector<TextWord> words, std::string name, SourcePlace start,
+                                   CKTReport& report)
+    : m_Words(std::move(words)),
+      m_sName(std::move(name)),
+      m_Context{report, {}, {}},
+      m_Start(start) {}
 
 std::deque<ProgramData> CKTProgramReader::Read() {
     const auto first = std::find_if_not(m_Words.begin(), m_Words.end(), IsListingWord);
@@ -44,9 +48,7 @@ std::deque<ProgramData> CKTProgramReader::Read() {
     }
     EndArea();
     if (m_Programs.empty() && m_Context.report.Errors() == 0) {
-        const SourcePlace none;
-        m_Context.report.Error(m_Words.empty() ? none : m_Words[0].place,
-                               "The source holds no program and no data description");
+        m_Context.report.Error(m_Start, "The source holds no program and no data description");
     }
     return std::move(m_Programs);
 }
@@ -56,63 +58,68 @@ bool CKTProgramReader::InData() const {
 }
 
 bool CKTProgramReader::TakeHeader() {
-    return TakeDivision() || TakeSection() || TakeProgramName() || TakeEndProgram();
-}
-
-bool CKTProgramReader::TakeDivision() {
-    if (!Is(m_nAt + 1, "DIVISION")) {
+    if (IsDivision(m_nAt)) {
+        TakeDivision();
+    } else if (IsSection(m_nAt)) {
+        TakeSection();
+    } else if (Is(m_nAt, "PROGRAM-ID")) {
+        TakeProgramName();
+    } else if (Is(m_nAt, "END") && Is(m_nAt + 1, "PROGRAM")) {
+        TakeEndProgram();
+    } else {
         return false;
     }
-    EndArea();
-    m_Place = Is(m_nAt, "ENVIRONMENT") ? Place::Environment : Place::Elsewhere;
-    m_bBare = false;
-    m_nAt = std::min(EndOfEntry() + 1, m_Words.size());
     return true;
 }
 
-bool CKTProgramReader::TakeSection() {
-    if (!Is(m_nAt + 1, "SECTION") || IsLevel(m_Words[m_nAt])) {
-        return false;
-    }
+void CKTProgramReader::TakeDivision() {
+    EndArea();
+    m_Place = Is(m_nAt, "ENVIRONMENT") ? Place::Environment : Place::Elsewhere;
+    m_bBare = false;
+    m_nAt += 2;
+}
+
+void CKTProgramReader::TakeSection() {
     const bool storage = Is(m_nAt, "WORKING-STORAGE");
     const bool files = Is(m_nAt, "FILE");
     if (storage || files) {
         EndArea();
         m_Place = storage ? Place::WorkingStorage : Place::FileSection;
+        if (!IsPeriod(m_nAt + 2)) {
+            m_Context.report.Error(m_Words[m_nAt].place, "The section header has no period");
+        }
     } else if (InData()) {
         EndArea();
         m_Place = Place::Elsewhere;
     }
-    m_nAt = std::min(EndOfEntry() + 1, m_Words.size());
-    return true;
+    m_nAt += 2;
 }
 
 // PROGRAM-ID. name
-bool CKTProgramReader::TakeProgramName() {
-    if (!Is(m_nAt, "PROGRAM-ID")) {
-        return false;
-    }
+void CKTProgramReader::TakeProgramName() {
     EndArea();
     m_Place = Place::Elsewhere;
     ++m_nAt;
-    m_nAt += m_nAt < m_Words.size() && m_Words[m_nAt].kind == WordKind::Period ? 1 : 0;
-    const bool named = m_nAt < m_Words.size() && (m_Words[m_nAt].kind == WordKind::Word ||
-                                                  m_Words[m_nAt].kind == WordKind::Literal);
-    m_Programs.push_back({named ? m_Words[m_nAt].text : m_sName, {}});
-    std::erase_if(m_Programs.back().name, [](char c) { return c == '"' || c == '\''; });
-    m_Context.constants.clear();
-    m_nAt = std::min(EndOfEntry() + 1, m_Words.size());
-    return true;
+    m_nAt += IsPeriod(m_nAt) ? 1 : 0;
+    std::string name = m_sName;
+    if (m_nAt < m_Words.size() && m_Words[m_nAt].kind == WordKind::Literal) {
+        name = TextOfLiteral(m_Words[m_nAt]);
+    } else if (m_nAt < m_Words.size() && m_Words[m_nAt].kind == WordKind::Word) {
+        name = m_Words[m_nAt].text;
+    }
+    m_Programs.push_back({std::move(name), {}});
+    // A contained program goes by the special names and constants of the one around it.
+    if (m_nNesting++ == 0) {
+        m_Context.constants.clear();
+        m_Context.symbols = {};
+    }
 }
 
-bool CKTProgramReader::TakeEndProgram() {
-    if (!Is(m_nAt, "END") || !Is(m_nAt + 1, "PROGRAM")) {
-        return false;
-    }
+void CKTProgramReader::TakeEndProgram() {
     EndArea();
     m_Place = Place::Elsewhere;
-    m_nAt = std::min(EndOfEntry() + 1, m_Words.size());
-    return true;
+    m_nNesting -= m_nNesting > 0 ? 1 : 0;
+    m_nAt += 2;
 }
 
 // DECIMAL-POINT IS COMMA; CURRENCY SIGN IS literal [WITH PICTURE SYMBOL literal]
@@ -136,22 +143,25 @@ void CKTProgramReader::TakeEntry() {
     if (word.kind == WordKind::Fault) {
         m_Context.report.Error(word.place, word.text);
         ++m_nAt;
+        if (m_Builder) {
+            m_Builder->MarkDamaged();
+        }
     } else if (word.kind == WordKind::Period || IsListingWord(word)) {
         ++m_nAt;
-    } else if (Is(m_nAt, "EXEC") || !(IsLevel(word) || Is(m_nAt, "FD") || Is(m_nAt, "SD"))) {
-        TakeUnsupported();
-    } else if (IsLevel(word)) {
-        TakeDataEntry(EndOfEntry());
-    } else {
+    } else if (Is(m_nAt, "FD") || Is(m_nAt, "SD")) {
         TakeFile();
+    } else if (IsLevel(word)) {
+        TakeDataEntry();
+    } else {
+        TakeUnsupported();
     }
 }
 
 void CKTProgramReader::TakeUnsupported() {
     const TextWord& word = m_Words[m_nAt];
     if (!Is(m_nAt, "EXEC")) {
-        m_Context.report.Error(word.place, Quoted(word.text) + " begins no data description entry");
-        m_nAt = std::min(EndOfEntry() + 1, m_Words.size());
+        m_Context.report.Error(word.place, ShownWord(word) + " begins no data description entry");
+        SkipPast(EndOfEntry());
         return;
     }
     std::string text = "\"EXEC";
@@ -162,7 +172,7 @@ void CKTProgramReader::TakeUnsupported() {
     while (m_nAt < m_Words.size() && !Is(m_nAt, "END-EXEC")) {
         ++m_nAt;
     }
-    m_nAt = std::min(m_nAt + 1, m_Words.size());
+    SkipPast(m_nAt);
 }
 
 // FD or SD, a name, and clauses that say nothing about the data.
@@ -170,45 +180,51 @@ void CKTProgramReader::TakeFile() {
     const TextWord& word = m_Words[m_nAt];
     const bool named = m_nAt + 1 < m_Words.size() && m_Words[m_nAt + 1].kind == WordKind::Word;
     if (!named) {
-        m_Context.report.Error(word.place, Quoted(word.text) + " names no file");
+        m_Context.report.Error(word.place, ShownWord(word) + " names no file");
     }
     BeginArea(true, named ? m_Words[m_nAt + 1].text : "");
-    m_nAt = std::min(EndOfEntry() + 1, m_Words.size());
+    const std::size_t end = EndOfEntry();
+    for (std::size_t at = m_nAt + 1; at < end; ++at) {
+        const TextWord& part = m_Words[at];
+        const bool beginsLine = part.place.line != m_Words[at - 1].place.line;
+        if (part.kind == WordKind::Fault) {
+            m_Context.report.Error(part.place, part.text);
+        } else if (beginsLine && Is(at, "01")) {
+            m_Context.report.Error(part.place, "The period before 01 is missing");
+            m_nAt = at;
+            return;
+        }
+    }
+    SkipPast(end);
 }
 
-void CKTProgramReader::TakeDataEntry(std::size_t end) {
+void CKTProgramReader::TakeDataEntry() {
     CKTReport& report = m_Context.report;
-    const std::span<TextWord> entry(m_Words.begin() + static_cast<std::ptrdiff_t>(m_nAt),
-                                    m_Words.begin() + static_cast<std::ptrdiff_t>(end));
-    const auto fault = std::find_if(entry.begin(), entry.end(), [](const TextWord& word) {
-        return word.kind == WordKind::Fault;
-    });
-    if (fault != entry.end()) {
-        report.Error(fault->place, fault->text);
-        m_nAt = std::min(end + 1, m_Words.size());
-        return;
-    }
+    const std::size_t end = EndOfEntry();
     if (!m_Builder) {
         const bool file = m_Place == Place::FileSection;
         if (file) {
-            report.Error(entry[0].place, "The record stands under no FD or SD");
+            report.Error(m_Words[m_nAt].place, "The record stands under no FD or SD");
         }
         BeginArea(file, "");
     }
-    CKTEntryReader reader(entry, m_Context);
+    CKTEntryReader reader(std::span<TextWord>(m_Words).subspan(m_nAt, end - m_nAt), m_Context);
     std::unique_ptr<DataItem> item = reader.Read();
     m_nAt += reader.WordsRead();
-    if (m_nAt == m_Words.size() && item != nullptr) {
-        report.Error(m_Words.back().place, "The last entry does not end with a period");
+    if (reader.Failed()) {
+        m_Builder->Skip(std::move(item));
+    } else {
+        if (!IsPeriod(end)) {
+            report.Error(m_Words[end - 1].place, "The entry does not end with a period");
+        }
+        if (item->isConstant) {
+            m_Context.constants[ToUpper(item->name)] = item->values.front().value;
+        }
+        m_Builder->Add(std::move(item));
     }
-    m_nAt += m_nAt == end && end < m_Words.size() ? 1 : 0;
-    if (item == nullptr) {
-        return;
+    if (m_nAt == end) {
+        SkipPast(end);
     }
-    if (item->level == kConstantLevel) {
-        m_Context.constants[ToUpper(item->name)] = item->values.front().value;
-    }
-    m_Builder->Add(std::move(item));
 }
 
 void CKTProgramReader::BeginArea(bool isFile, std::string name) {
@@ -236,10 +252,35 @@ bool CKTProgramReader::Is(std::size_t at, std::string_view word) const {
     return at < m_Words.size() && IsWord(m_Words[at], word);
 }
 
-/// The index of the period that ends the entry, or the number of words when there is none.
-std::size_t CKTProgramReader::EndOfEntry() const {
-    const auto begin = m_Words.begin() + static_cast<std::ptrdiff_t>(m_nAt);
-    const auto end = std::find_if(
-        begin, m_Words.end(), [](const TextWord& word) { return word.kind == WordKind::Period; });
-    return static_cast<std::size_t>(end - m_Words.begin());
+bool CKTProgramReader::IsPeriod(std::size_t at) const {
+    return at < m_Words.size() && m_Words[at].kind == WordKind::Period;
+}
+
+bool CKTProgramReader::IsDivision(std::size_t at) const {
+    return Is(at + 1, "DIVISION") &&
+           (Is(at, "IDENTIFICATION") || Is(at, "ID") || Is(at, "ENVIRONMENT") || Is(at, "DATA") ||
+            Is(at, "PROCEDURE"));
+}
+
+bool CKTProgramReader::IsSection(std::size_t at) const {
+    return Is(at + 1, "SECTION") && m_Words[at].kind == WordKind::Word && !IsLevel(m_Words[at]);
+}
+
+/// The index of the period that ends the entry, of the header before which it is missing, or the
+/// number of words. Looked for once until it is passed.
+std::size_t CKTProgramReader::EndOfEntry() {
+    if (m_nEnd <= m_nAt) {
+        m_nEnd = m_nAt + 1;
+        while (m_nEnd < m_Words.size() && !IsPeriod(m_nEnd) && !IsDivision(m_nEnd) &&
+               !(InData() && IsSection(m_nEnd))) {
+            ++m_nEnd;
+        }
+    }
+    return m_nEnd;
+}
+
+/// Goes on behind `end`, and behind the period that stands there.
+void CKTProgramReader::SkipPast(std::size_t end) {
+    m_nAt = std::min(end, m_Words.size());
+    m_nAt += IsPeriod(m_nAt) || Is(m_nAt, "END-EXEC") ? 1 : 0;
 }

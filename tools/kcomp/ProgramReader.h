@@ -16,9 +16,10 @@
 /// SECTION of each program, or those that a bare copybook consists of.
 class CKTProgramReader {
 public:
-    /// `words` is the whole source, copies included. `name` is the name of a program that names
-    /// itself nowhere, a bare copybook above all.
-    CKTProgramReader(std::vector<TextWord> words, std::string name, CKTReport& report);
+    /// `words` is the whole source, copies included, and `start` its first line. `name` is the name
+    /// of a program that names itself nowhere, a bare copybook above all.
+    CKTProgramReader(std::vector<TextWord> words, std::string name, SourcePlace start,
+                     CKTReport& report);
 
     /// Returns the programs in the order of the source. Complains of what cannot be read, and of a
     /// source that holds no program and no data description.
@@ -28,29 +29,36 @@ private:
     enum class Place { Elsewhere, Environment, WorkingStorage, FileSection };
 
     bool TakeHeader();
-    bool TakeDivision();
-    bool TakeSection();
-    bool TakeProgramName();
-    bool TakeEndProgram();
+    void TakeDivision();
+    void TakeSection();
+    void TakeProgramName();
+    void TakeEndProgram();
     void TakeSpecialName();
     void TakeEntry();
     void TakeFile();
-    void TakeDataEntry(std::size_t end);
+    void TakeDataEntry();
     void TakeUnsupported();
     void BeginArea(bool isFile, std::string name);
     void EndArea();
     ProgramData& Program();
 
     [[nodiscard]] bool Is(std::size_t at, std::string_view word) const;
-    [[nodiscard]] std::size_t EndOfEntry() const;
+    [[nodiscard]] bool IsPeriod(std::size_t at) const;
+    [[nodiscard]] bool IsDivision(std::size_t at) const;
+    [[nodiscard]] bool IsSection(std::size_t at) const;
     [[nodiscard]] bool InData() const;
+    std::size_t EndOfEntry();
+    void SkipPast(std::size_t end);
 
     std::vector<TextWord> m_Words;
     std::string m_sName;
     ReadingContext m_Context;
     std::deque<ProgramData> m_Programs;
     std::optional<CKTRecordBuilder> m_Builder;
+    SourcePlace m_Start;
     std::size_t m_nAt = 0;
+    std::size_t m_nEnd = 0;      // where the entry ends, once it was looked for
+    std::size_t m_nNesting = 0;  // programs that are open
     Place m_Place = Place::Elsewhere;
     bool m_bBare = false;
 };

@@ -1,11 +1,24 @@
 #include "kcomp/RecordBuilder.h"
 
+#include <algorithm>
+
 #include "kcomp/Text.h"
 
 namespace {
 
 std::string ShownName(const DataItem& item) {
     return Quoted(item.name.empty() ? "FILLER" : item.name);
+}
+
+// Between a name and the group that it is qualified by.
+constexpr std::string_view kOf = " OF ";
+
+/// Whether the item or a group above it is a table.
+bool IsRepeated(const DataItem* item) {
+    while (item != nullptr && item->maxOccurs.empty()) {
+        item = item->parent;
+    }
+    return item != nullptr;
 }
 
 /// Whether the item stands under groups of these names, given from the innermost on.
@@ -21,36 +34,38 @@ bool IsBelow(const DataItem* item, const std::vector<std::string>& qualifiers) {
 }  // namespace
 
 void CKTRecordBuilder::Add(std::unique_ptr<DataItem> item) {
-    switch (item->level) {
-        case kConditionLevel:
-            AddCondition(std::move(item));
-            break;
-        case kRenamesLevel:
-            AddRenames(std::move(item));
-            break;
-        case kConstantLevel:
-            m_Area.items.push_back(std::move(item));
-            break;
-        default:
-            AddData(std::move(item));
+    if (item->isConstant) {
+        AddConstant(std::move(item));
+    } else if (item->level == kConditionLevel) {
+        AddCondition(std::move(item));
+    } else if (item->level == kRenamesLevel) {
+        AddRenames(std::move(item));
+    } else {
+        AddData(std::move(item));
     }
+}
+
+void CKTRecordBuilder::Skip(std::unique_ptr<DataItem> item) {
+    const int level = item->level;
+    if (level >= 1 && level <= kHighestLevel && level <= m_nSkipped) {
+        Add(std::move(item));
+        m_nSkipped = level;
+    }
+    m_bDamaged = true;
 }
 
 void CKTRecordBuilder::AddData(std::unique_ptr<DataItem> item) {
     const bool lone = item->level == kLoneLevel;
+    if (!lone && item->level > m_nSkipped) {
+        return;
+    }
+    m_nSkipped = kNothingSkipped;
     while (!m_Open.empty() && (lone || m_Open.back().item->level >= item->level)) {
         m_Open.pop_back();
     }
     DataItem* added = item.get();
     if (m_Open.empty()) {
-        if (!lone && !m_bBare && item->level != 1) {
-            m_Context.report.Error(item->place, ShownName(*item) + " stands under no level 01");
-        }
-        Finish();
-        m_nErrorsBefore = m_Context.report.Errors();
-        m_pRecord = added;
-        CheckRedefines(*item, m_RecordNames);
-        m_Area.items.push_back(std::move(item));
+        BeginRecord(std::move(item));
     } else {
         DataItem* parent = m_Open.back().item;
         if (!parent->picture.empty()) {
@@ -68,7 +83,20 @@ void CKTRecordBuilder::AddData(std::unique_ptr<DataItem> item) {
     }
 }
 
+void CKTRecordBuilder::BeginRecord(std::unique_ptr<DataItem> item) {
+    if (item->level > 1 && item->level != kLoneLevel && (!m_bBare || !m_Renames.empty())) {
+        m_Context.report.Error(item->place, ShownName(*item) + " stands under no level 01");
+    }
+    Finish();
+    m_pRecord = item.get();
+    CheckRedefines(*item, m_RecordNames);
+    m_Area.items.push_back(std::move(item));
+}
+
 void CKTRecordBuilder::AddCondition(std::unique_ptr<DataItem> item) {
+    if (m_nSkipped != kNothingSkipped) {
+        return;
+    }
     if (m_pLast == nullptr) {
         m_Context.report.Error(item->place,
                                "Condition-name " + ShownName(*item) + " stands behind no item");
@@ -78,88 +106,131 @@ void CKTRecordBuilder::AddCondition(std::unique_ptr<DataItem> item) {
     m_pLast->children.push_back(std::move(item));
 }
 
+/// A constant of level 01 ends the record before it, one of level 78 may stand inside.
+void CKTRecordBuilder::AddConstant(std::unique_ptr<DataItem> item) {
+    if (item->level != kConstantLevel) {
+        m_Open.clear();
+        m_nSkipped = kNothingSkipped;
+    }
+    m_Area.items.push_back(std::move(item));
+}
+
 void CKTRecordBuilder::AddRenames(std::unique_ptr<DataItem> item) {
     if (m_pRecord == nullptr || !m_pRecord->isGroup) {
-        m_Context.report.Error(item->place, ShownName(*item) + " renames items of no record");
+        if (!m_bDamaged) {
+            m_Context.report.Error(item->place, ShownName(*item) + " renames items of no record");
+        }
         return;
     }
+    m_Open.clear();
+    m_nSkipped = kNothingSkipped;
     item->parent = m_pRecord;
     m_pLast = item.get();
     m_Renames.push_back(m_pLast);
     m_pRecord->children.push_back(std::move(item));
 }
 
-void CKTRecordBuilder::CheckRedefines(const DataItem& item,
-                                      std::unordered_set<std::string>& names) {
-    if (!item.redefines.empty() && !names.contains(ToUpper(item.redefines))) {
-        m_Context.report.Error(item.place, "REDEFINES names " + Quoted(item.redefines) +
-                                               ", which does not stand before it beside it");
+void CKTRecordBuilder::CheckRedefines(DataItem& item, Names& names) {
+    if (!item.redefines.empty()) {
+        const auto found = names.find(ToUpper(item.redefines));
+        if (found == names.end()) {
+            m_Context.report.Error(item.place, "REDEFINES names " + Quoted(item.redefines) +
+                                                   ", which does not stand before it beside it");
+        } else {
+            item.redefined = found->second;
+        }
     }
-    names.insert(ToUpper(item.name));
+    names.insert_or_assign(ToUpper(item.name), &item);
 }
 
 void CKTRecordBuilder::Finish() {
-    if (m_pRecord == nullptr) {
-        return;
-    }
-    // An entry that could not be read would only bring follow-up complaints.
-    if (m_Context.report.Errors() == m_nErrorsBefore) {
+    if (m_pRecord != nullptr && !m_bDamaged) {
+        const std::size_t errors = m_Context.report.Errors();
         DescribeItem(*m_pRecord, m_Context);
-    }
-    if (m_Context.report.Errors() == m_nErrorsBefore) {
         for (DataItem* renames : m_Renames) {
-            DescribeRenames(*renames);
+            if (m_Context.report.Errors() == errors) {
+                DescribeRenames(*renames);
+            }
         }
     }
     m_Renames.clear();
     m_ItemsOfRecord.clear();
     m_pRecord = nullptr;
     m_pLast = nullptr;
+    m_bDamaged = false;
 }
 
-DataItem* CKTRecordBuilder::FindRenamed(const std::string& qualifiedName) {
-    if (m_ItemsOfRecord.empty()) {
-        std::vector<DataItem*> pending = {m_pRecord};
-        while (!pending.empty()) {
-            DataItem* item = pending.back();
-            pending.pop_back();
-            for (const auto& child : item->children) {
-                if (child->level <= kHighestLevel) {
-                    m_ItemsOfRecord.emplace(ToUpper(child->name), child.get());
-                    pending.push_back(child.get());
-                }
+void CKTRecordBuilder::IndexItems() {
+    std::vector<DataItem*> pending = {m_pRecord};
+    while (!pending.empty()) {
+        DataItem* item = pending.back();
+        pending.pop_back();
+        for (const auto& child : item->children) {
+            if (child->level > kHighestLevel) {
+                continue;
             }
+            const std::string name = ToUpper(child->name);
+            m_ItemsOfRecord.emplace(name, child.get());
+            for (const DataItem* group = item; group != nullptr; group = group->parent) {
+                m_ItemsOfRecord.emplace(name + std::string(kOf) + ToUpper(group->name),
+                                        child.get());
+            }
+            pending.push_back(child.get());
         }
     }
-    constexpr std::string_view kOf = " OF ";
-    std::vector<std::string> names;
-    for (std::string_view rest = qualifiedName;;) {
-        const std::size_t end = rest.find(kOf);
-        names.emplace_back(rest.substr(0, end));
-        if (end == std::string_view::npos) {
-            break;
-        }
-        rest.remove_prefix(end + kOf.size());
+}
+
+/// Returns the one item of the record that a RENAMES clause names, or null after a complaint.
+DataItem* CKTRecordBuilder::FindRenamed(const DataItem& item, const std::string& qualifiedName) {
+    if (m_ItemsOfRecord.empty()) {
+        IndexItems();
     }
-    const auto [first, last] = m_ItemsOfRecord.equal_range(ToUpper(names.front()));
-    names.erase(names.begin());
-    for (auto candidate = first; candidate != last; ++candidate) {
-        if (IsBelow(candidate->second, names)) {
-            return candidate->second;
-        }
+    const std::size_t first = std::min(qualifiedName.find(kOf), qualifiedName.size());
+    const std::size_t second = qualifiedName.find(kOf, first + 1);
+    std::vector<std::string> groups;
+    for (std::size_t at = first; at < qualifiedName.size();) {
+        const std::size_t end = qualifiedName.find(kOf, at + 1);
+        groups.push_back(qualifiedName.substr(at + kOf.size(), end - at - kOf.size()));
+        at = std::min(end, qualifiedName.size());
     }
-    return nullptr;
+    DataItem* found = nullptr;
+    const auto range = m_ItemsOfRecord.equal_range(ToUpper(qualifiedName.substr(0, second)));
+    for (auto candidate = range.first; candidate != range.second; ++candidate) {
+        if (!IsBelow(candidate->second, groups)) {
+            continue;
+        }
+        if (found != nullptr) {
+            m_Context.report.Error(item.place, "RENAMES names " + Quoted(qualifiedName) +
+                                                   ", of which the record has several");
+            return nullptr;
+        }
+        found = candidate->second;
+    }
+    if (found == nullptr) {
+        m_Context.report.Error(item.place, "RENAMES names " + Quoted(qualifiedName) +
+                                               ", which the record does not have");
+    } else if (IsRepeated(found)) {
+        m_Context.report.Error(item.place,
+                               "RENAMES names " + Quoted(qualifiedName) + ", which has OCCURS");
+        return nullptr;
+    }
+    return found;
 }
 
 // One elementary item under another name is what that item is; anything else is the text that the
 // items take up together.
 void CKTRecordBuilder::DescribeRenames(DataItem& item) {
     const bool range = !item.renamesThrough.empty();
-    const DataItem* first = FindRenamed(item.renames);
-    const DataItem* last = range ? FindRenamed(item.renamesThrough) : first;
-    if (first == nullptr || last == nullptr || last->offset < first->offset) {
-        m_Context.report.Error(item.place,
-                               "RENAMES names what does not stand in the record in that order");
+    const DataItem* first = FindRenamed(item, item.renames);
+    const DataItem* last =
+        first != nullptr && range ? FindRenamed(item, item.renamesThrough) : first;
+    if (last == nullptr) {
+        return;
+    }
+    if (last->offset < first->offset || (range && last == first)) {
+        m_Context.report.Error(item.place, "RENAMES names " + Quoted(item.renamesThrough) +
+                                               ", which does not stand behind " +
+                                               Quoted(item.renames));
         return;
     }
     item.renames = first->name;

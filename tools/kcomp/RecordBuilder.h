@@ -4,7 +4,6 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 #include "kcomp/DataItem.h"
@@ -22,32 +21,48 @@ public:
     /// leaves it out.
     void Add(std::unique_ptr<DataItem> item);
 
+    /// Passes over what stands below an item that could not be read, so that one fault is one
+    /// complaint.
+    void Skip(std::unique_ptr<DataItem> item);
+
+    /// Says that the record lacks items, so that nothing is said about what depends on them.
+    void MarkDamaged() { m_bDamaged = true; }
+
     /// Completes the last record: what its items inherit, and whether their clauses agree.
     void Finish();
 
 private:
+    using Names = std::unordered_map<std::string, DataItem*>;  // by their upper case
+
     struct OpenItem {
         DataItem* item;
-        std::unordered_set<std::string> names;  // of its children, in upper case
+        Names names;  // of its children
     };
 
     void AddData(std::unique_ptr<DataItem> item);
     void AddCondition(std::unique_ptr<DataItem> item);
+    void AddConstant(std::unique_ptr<DataItem> item);
     void AddRenames(std::unique_ptr<DataItem> item);
-    void CheckRedefines(const DataItem& item, std::unordered_set<std::string>& names);
-    DataItem* FindRenamed(const std::string& qualifiedName);
+    void BeginRecord(std::unique_ptr<DataItem> item);
+    void CheckRedefines(DataItem& item, Names& names);
+    void IndexItems();
+    DataItem* FindRenamed(const DataItem& item, const std::string& qualifiedName);
     void DescribeRenames(DataItem& item);
+
+    static constexpr int kNothingSkipped = 100;
 
     RecordArea& m_Area;
     bool m_bBare;
     ReadingContext& m_Context;
     std::vector<OpenItem> m_Open;
-    std::unordered_set<std::string> m_RecordNames;
+    Names m_RecordNames;
     DataItem* m_pRecord = nullptr;
-    DataItem* m_pLast = nullptr;      // whose condition-names come next
-    std::size_t m_nErrorsBefore = 0;  // before the record
+    DataItem* m_pLast = nullptr;       // whose condition-names come next
+    int m_nSkipped = kNothingSkipped;  // the level of an item that could not be read
+    bool m_bDamaged = false;           // the record lacks such an item
     std::vector<DataItem*> m_Renames;
-    std::unordered_multimap<std::string, DataItem*> m_ItemsOfRecord;  // only for RENAMES
+    // For RENAMES: by name, and by name and the name of each group above.
+    std::unordered_multimap<std::string, DataItem*> m_ItemsOfRecord;
 };
 
 /// Completes an item and all below it: usage and sign that they inherit, category, sizes and

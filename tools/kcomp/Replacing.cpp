@@ -65,7 +65,7 @@ private:
             Put(std::move(word));
             first = false;
         }
-        m_bApart = by.empty() && !replaced.glued;
+        m_bApart = by.empty() && (m_bApart || !replaced.glued);
     }
 
     void PutPart(TextWord word, const Replacement& pair) {

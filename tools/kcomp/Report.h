@@ -23,7 +23,7 @@ public:
     std::string_view KeepName(std::string name) { return m_Names.emplace_back(std::move(name)); }
 
     /// Writes "FILE(LINE) : Error : text" and counts it. A place without a file gives the
-    /// name of this program alone.
+    /// name of this program alone. After a hundred complaints a last line says that there are more.
     void Error(const SourcePlace& place, std::string_view text);
 
     [[nodiscard]] std::size_t Errors() const { return m_nErrors; }

@@ -55,6 +55,7 @@ int VoteOf(std::string_view line) {
 
 SourceFormat DetectFormat(std::string_view content, SourceFormat otherwise) {
     long sum = 0;
+    content = content.substr(0, content.find(kEndOfFileMark));
     while (!content.empty()) {
         sum += VoteOf(ExpandTabs(TakeLine(content)));
     }

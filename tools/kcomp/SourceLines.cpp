@@ -11,7 +11,6 @@ namespace {
 constexpr std::size_t kIndicator = 6;   // column 7
 constexpr std::size_t kTextEnd = 72;    // the text of a fixed line ends in this column
 constexpr std::size_t kBodyWidth = 65;  // columns 8 to 72
-constexpr char kEndOfFile = '\x1A';     // closes files of an older system
 
 bool IsControl(char c) {
     return (static_cast<unsigned char>(c) < ' ' && c != '\f') || c == '\x7F';
@@ -41,14 +40,22 @@ public:
     void Add(std::string_view raw) {
         ++m_nLine;
         const std::string line = ExpandTabs(raw);
-        if (std::any_of(line.begin(), line.end(), IsControl)) {
-            AddFault("The line holds a control character");
-        } else if (const auto directive = DirectiveOf(line)) {
+        if (const auto directive = DirectiveOf(line)) {
             Obey(*directive);
         } else if (m_Format == SourceFormat::Free) {
             BeginLine(line);
         } else {
             AddFixed(line);
+        }
+    }
+
+    /// Ends at a mark of the end of file, behind which nothing may stand.
+    void End(std::string_view rest) {
+        const auto isText = [](char c) {
+            return c != kEndOfFileMark && c != ' ' && c != '\r' && c != '\n';
+        };
+        if (std::any_of(rest.begin(), rest.end(), isText)) {
+            AddFault("Text follows the mark of the end of file");
         }
     }
 
@@ -61,8 +68,9 @@ private:
         const std::string_view numbered =
             line.size() > kIndicator ? line.substr(kIndicator) : std::string_view();
         for (const std::string_view text : {Trim(line), Trim(numbered)}) {
-            const bool dollar = text.size() > 1 && text[0] == '$' && text[1] >= 'A';
-            if (text.starts_with(">>") || dollar) {
+            const std::string first = ToUpper(text.substr(0, text.find(' ')));
+            if (first.starts_with(">>") || first == "$SET" || first == "$IF" || first == "$ELSE" ||
+                first == "$END") {
                 return text;
             }
         }
@@ -70,6 +78,7 @@ private:
     }
 
     void Obey(std::string_view directive) {
+        m_cOpen = '\0';
         const std::vector<std::string> words = DirectiveWords(directive);
         const auto has = [&words](std::string_view word) {
             return std::find(words.begin(), words.end(), word) != words.end();
@@ -111,16 +120,15 @@ private:
 
     void BeginLine(std::string_view body) {
         m_cOpen = '\0';
-        if (body.find_first_not_of(' ') == std::string_view::npos) {
-            return;
+        if (body.find_first_not_of(' ') != std::string_view::npos && IsReadable(body)) {
+            m_Lines.emplace_back();
+            Append(body, 0);
         }
-        m_Lines.emplace_back();
-        Append(body, 0);
     }
 
     void Continue(std::string_view body) {
         const std::size_t first = body.find_first_not_of(' ');
-        if (first == std::string_view::npos) {
+        if (first == std::string_view::npos || !IsReadable(body)) {
             return;
         }
         if (m_Lines.empty() || !m_Lines.back().fault.empty()) {
@@ -132,7 +140,7 @@ private:
         if (m_cOpen == '\0') {
             text.erase(text.find_last_not_of(' ') + 1);
         } else if (body[first] == m_cOpen) {
-            text.append(kBodyWidth - m_nBody, ' ');
+            text.append(kBodyWidth - std::min(m_nBody, kBodyWidth), ' ');
             ++column;
         } else {
             AddFault("A continued literal begins with its quotation mark");
@@ -159,6 +167,14 @@ private:
         }
     }
 
+    bool IsReadable(std::string_view body) {
+        const bool readable = std::none_of(body.begin(), body.end(), IsControl);
+        if (!readable) {
+            AddFault("The line holds a control character");
+        }
+        return readable;
+    }
+
     void AddFault(std::string text) {
         m_Lines.push_back({{}, {{0, m_nLine}}, std::move(text)});
         m_cOpen = '\0';
@@ -177,9 +193,10 @@ std::vector<LogicalLine> ReadLogicalLines(std::string_view content, SourceFormat
     CKTLineReader reader(format);
     while (!content.empty()) {
         const std::string_view line = TakeLine(content);
-        const std::size_t end = line.find(kEndOfFile);
+        const std::size_t end = line.find(kEndOfFileMark);
         reader.Add(line.substr(0, end));
         if (end != std::string_view::npos) {
+            reader.End(content);
             break;
         }
     }

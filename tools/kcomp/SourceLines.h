@@ -8,6 +8,9 @@
 
 enum class SourceFormat { Fixed, Free };
 
+/// Closes the files of an older system; nothing may follow it.
+constexpr char kEndOfFileMark = '\x1A';
+
 /// A line of COBOL text without columns, comments and continuation. A line that cannot be read
 /// holds the complaint in `fault`.
 struct LogicalLine {

@@ -1,5 +1,6 @@
 #include "kcomp/SourceReader.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -9,8 +10,8 @@
 namespace {
 
 constexpr std::size_t kMostNested = 50;
-constexpr std::size_t kMostCopied = 10'000'000;
-constexpr std::size_t kCostOfFile = 1'000;  // in words
+constexpr std::size_t kMostCopied = 2'000'000;
+constexpr std::size_t kCostOfFile = 100;  // in words
 constexpr const char* kTooMuchText = "The copy files hold too much text";
 
 std::optional<std::string> ContentOf(const std::string& path) {
@@ -34,6 +35,15 @@ std::optional<std::string> ContentOf(const std::string& path) {
     return content;
 }
 
+/// The index behind the period that ends a statement; periods of pseudo-text are none.
+std::size_t EndOfStatement(const std::vector<TextWord>& words, std::size_t at) {
+    bool pseudo = false;
+    while (at < words.size() && (pseudo || words[at].kind != WordKind::Period)) {
+        pseudo ^= words[at++].kind == WordKind::Pseudo;
+    }
+    return std::min(at + 1, words.size());
+}
+
 TextWord FaultAt(const SourcePlace& place, std::string text) {
     return {WordKind::Fault, false, std::move(text), place};
 }
@@ -48,6 +58,7 @@ std::optional<std::vector<TextWord>> CKTSourceReader::Read(const std::string& pa
         m_Report.Error({m_Report.KeepName(path), 1}, "The file cannot be read");
         return std::nullopt;
     }
+    m_Open = {path};
     return Expand(std::move(*words), used);
 }
 
@@ -67,6 +78,7 @@ std::vector<TextWord> CKTSourceReader::Expand(std::vector<TextWord> words, Sourc
     std::vector<TextWord> expanded;
     for (std::size_t at = 0; at < words.size();) {
         if (!IsWord(words[at], "COPY")) {
+            RefuseReplace(words, at);
             expanded.push_back(std::move(words[at++]));
             continue;
         }
@@ -79,6 +91,16 @@ std::vector<TextWord> CKTSourceReader::Expand(std::vector<TextWord> words, Sourc
     return expanded;
 }
 
+/// REPLACE would change all text that follows, wherever it stands.
+void CKTSourceReader::RefuseReplace(const std::vector<TextWord>& words, std::size_t at) {
+    const bool statement = IsWord(words[at], "REPLACE") && at + 1 < words.size() &&
+                           (words[at + 1].kind == WordKind::Pseudo ||
+                            IsWord(words[at + 1], "LEADING") || IsWord(words[at + 1], "TRAILING"));
+    if (statement) {
+        m_Report.Error(words[at].place, "\"REPLACE\" is not supported");
+    }
+}
+
 std::vector<TextWord> CKTSourceReader::Copied(const CopyStatement& copy, SourceFormat format) {
     const auto fault = [&copy](std::string text) {
         return std::vector<TextWord>{FaultAt(copy.name.place, std::move(text))};
@@ -87,14 +109,19 @@ std::vector<TextWord> CKTSourceReader::Copied(const CopyStatement& copy, SourceF
         return fault(copy.fault);
     }
     const bool literal = copy.name.kind == WordKind::Literal;
-    const std::string name =
-        literal ? copy.name.text.substr(1, copy.name.text.size() - 2) : copy.name.text;
+    const std::string name = literal ? TextOfLiteral(copy.name) : copy.name.text;
     const std::optional<std::string> path = m_Library.Find(name, literal);
     if (!path) {
         return fault("Copy file " + Quoted(name) + " is not found");
     }
-    if (m_nDepth == kMostNested) {
-        return fault("Copy files are nested too deep, or copy themselves");
+    if (std::find(m_Open.begin(), m_Open.end(), *path) != m_Open.end()) {
+        return fault("Copy file " + Quoted(name) + " copies itself");
+    }
+    if (m_Open.size() > kMostNested) {
+        return fault("The copy files are nested too deep");
+    }
+    if (m_nCopied > kMostCopied) {
+        return fault(kTooMuchText);
     }
     auto words = WordsOf(*path, format, true);
     if (!words) {
@@ -104,13 +131,14 @@ std::vector<TextWord> CKTSourceReader::Copied(const CopyStatement& copy, SourceF
     if (m_nCopied > kMostCopied) {
         return fault(kTooMuchText);
     }
-    ++m_nDepth;
+    m_Open.push_back(*path);
     std::vector<TextWord> expanded = Expand(std::move(*words), format);
-    --m_nDepth;
+    m_Open.pop_back();
     if (copy.pairs.empty()) {
         return expanded;
     }
-    auto replaced = ReplaceWords(expanded, copy.pairs, kMostCopied);
+    auto replaced = ReplaceWords(expanded, copy.pairs, kMostCopied - m_nCopied);
+    m_nCopied += replaced ? replaced->size() : kMostCopied;
     return replaced ? std::move(*replaced) : fault(kTooMuchText);
 }
 
@@ -119,12 +147,15 @@ CKTSourceReader::CopyStatement CKTSourceReader::ReadCopy(const std::vector<TextW
                                                          std::size_t at) {
     CopyStatement copy;
     copy.name = words[at++];
-    copy.end = at;
+    copy.end = EndOfStatement(words, at);
     const auto is = [&words, &at](std::string_view word) {
         return at < words.size() && IsWord(words[at], word);
     };
-    if (at == words.size() ||
-        (words[at].kind != WordKind::Word && words[at].kind != WordKind::Literal)) {
+    const bool named =
+        at < words.size() &&
+        (words[at].kind == WordKind::Word ||
+         (words[at].kind == WordKind::Literal && words[at].text.find_first_of("\"'") == 0));
+    if (!named) {
         copy.fault = "COPY names no copy file";
         return copy;
     }
@@ -150,9 +181,7 @@ CKTSourceReader::CopyStatement CKTSourceReader::ReadCopy(const std::vector<TextW
     }
     if (at == words.size() || words[at].kind != WordKind::Period) {
         copy.fault = "COPY does not end with a period";
-        return copy;
     }
-    copy.end = at + 1;
     return copy;
 }
 

@@ -29,13 +29,14 @@ private:
     struct CopyStatement {
         TextWord name;
         std::vector<Replacement> pairs;
-        std::size_t end = 0;  // the index behind the period
+        std::size_t end = 0;  // the index behind the next period
         std::string fault;    // the complaint about a statement that cannot be read
     };
 
     std::optional<std::vector<TextWord>> WordsOf(const std::string& path, SourceFormat& format,
                                                  bool detect);
     std::vector<TextWord> Expand(std::vector<TextWord> words, SourceFormat format);
+    void RefuseReplace(const std::vector<TextWord>& words, std::size_t at);
     std::vector<TextWord> Copied(const CopyStatement& copy, SourceFormat format);
 
     static CopyStatement ReadCopy(const std::vector<TextWord>& words, std::size_t at);
@@ -45,7 +46,7 @@ private:
 
     CKTReport& m_Report;
     const CKTCopyLibrary& m_Library;
-    std::size_t m_nDepth = 0;
+    std::vector<std::string> m_Open;  // the files that are being read, each from the one before
     std::size_t m_nCopied = 0;  // words that COPY statements brought in, and a share for each file
 };
 

@@ -99,15 +99,15 @@ private:
                m_sText.substr(at, 2) == "==";
     }
 
-    /// A point, comma or semicolon ends a word when a blank or the line's end follows; a comma
-    /// also before a literal.
+    /// A point, comma or semicolon ends a word when a blank, the end of the line or of pseudo-text
+    /// follows; a comma also before a literal.
     [[nodiscard]] bool IsSeparator(std::size_t at) const {
         const char c = m_sText[at];
         if (c != '.' && c != ',' && c != ';') {
             return false;
         }
         return at + 1 == m_sText.size() || m_sText[at + 1] == ' ' ||
-               (c != '.' && IsQuote(m_sText[at + 1]));
+               m_sText.substr(at + 1, 2) == "==" || (c != '.' && IsQuote(m_sText[at + 1]));
     }
 
     void Add(WordKind kind, std::size_t end) {
@@ -140,6 +140,20 @@ std::vector<TextWord> SplitIntoWords(const std::vector<LogicalLine>& lines, std:
         CKTLineSplitter(line, file, words).Split();
     }
     return words;
+}
+
+std::string TextOfLiteral(const TextWord& literal) {
+    const std::size_t quote = literal.text.find_first_of("\"'");
+    std::string text;
+    for (std::size_t i = quote + 1; i + 1 < literal.text.size(); ++i) {
+        text += literal.text[i];
+        i += literal.text[i] == literal.text[quote] ? 1 : 0;
+    }
+    return text;
+}
+
+std::string ShownWord(const TextWord& word) {
+    return word.kind == WordKind::Literal ? word.text : Quoted(word.text);
 }
 
 bool IsWord(const TextWord& word, std::string_view spelling) {

@@ -28,6 +28,12 @@ struct TextWord {
 /// the name for the places of the words. A literal without an end becomes a fault.
 std::vector<TextWord> SplitIntoWords(const std::vector<LogicalLine>& lines, std::string_view file);
 
+/// What a literal stands for: its text between the quotation marks, doubled ones taken as one.
+std::string TextOfLiteral(const TextWord& literal);
+
+/// The word as messages show it: between quotation marks, unless it has its own.
+std::string ShownWord(const TextWord& word);
+
 /// Whether the word is a Word of this spelling, in any case.
 bool IsWord(const TextWord& word, std::string_view spelling);
 
