@@ -106,8 +106,8 @@ void CKTEntryReader::ReadIndexed() {
 
 // "IS" says nothing of its own; what may follow it is a clause.
 void CKTEntryReader::ReadIs() {
-    const bool clause = m_nAt < m_Words.size() && ClauseOf(m_Words[m_nAt]) != nullptr;
-    if (clause && !IsOneOf({"ATTRIBUTE", "EXTERNAL", "GLOBAL"})) {
+    const bool known = m_nAt == m_Words.size() || ClauseOf(m_Words[m_nAt]) != nullptr;
+    if (known && !IsOneOf({"ATTRIBUTE", "EXTERNAL", "GLOBAL"})) {
         Fail("\"IS\" is not expected here");
     }
 }

@@ -90,7 +90,8 @@ void CKTEntryReader::ReadClause() {
     const TextWord& word = m_Words[m_nAt];
     const Clause* clause = ClauseOf(word);
     if (clause == nullptr) {
-        if (BeginsLine(m_nAt) && IsDigits(word.text)) {
+        // A number of two digits is a level, one that begins a line is too.
+        if (IsDigits(word.text) && (BeginsLine(m_nAt) || word.text.size() == 2)) {
             FailForPeriod(m_nAt);
         } else {
             Fail("Clause " + ShownWord(word) + " is not supported");
