@@ -1,0 +1,209 @@
+#include <algorithm>
+#include <sstream>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "kcomp/DictionaryWriter.h"
+#include "kcomp/ProgramReader.h"
+
+namespace {
+
+// The complaints about a bare copybook of the free format, each with its place, or else its items
+// as the dictionary holds them: in one line, with apostrophes, without the container.
+std::string Read(const std::string& source) {
+    SourceFormat format = SourceFormat::Free;
+    std::ostringstream complaints;
+    CKTReport report(complaints);
+    CKTProgramReader reader(SplitIntoWords(ReadLogicalLines(source, format), "a"), "A", report);
+    const auto programs = reader.Read();
+    std::string shown = complaints.str();
+    if (shown.empty()) {
+        std::istringstream lines(DictionaryOf(programs));
+        for (std::string line; std::getline(lines, line);) {
+            shown += line.substr(line.find_first_not_of(' '));
+        }
+        const std::string start = "<dataItems>";
+        shown.erase(0, shown.find(start) + start.size());
+        shown.erase(shown.find("</dataItems>"));
+    }
+    std::replace(shown.begin(), shown.end(), '"', '\'');
+    return shown;
+}
+
+// What stands in the only element of `01 A clauses.` behind its name and level.
+std::string Element(const std::string& clauses) {
+    std::string shown = Read("01 A " + clauses + ".");
+    for (const std::string part : {" name='A' level='01'", " picture='X' length='1'", "/>"}) {
+        const std::size_t at = shown.find(part);
+        shown.erase(std::min(at, shown.size()), at == std::string::npos ? 0 : part.size());
+    }
+    return shown.substr(1);
+}
+
+// The complaint about a source of one line.
+std::string Complaint(const std::string& source) {
+    const std::string shown = Read(source);
+    const std::string place = "a(1) : Error : ";
+    const bool whole = shown.starts_with(place) && shown.find('\n') + 1 == shown.size();
+    return whole ? shown.substr(place.size(), shown.size() - place.size() - 1) : shown;
+}
+
+// Reads the lines of a table, each "input => expected".
+void Check(std::string (*read)(const std::string&), const std::string& table) {
+    std::istringstream lines(table.substr(1));
+    for (std::string line; std::getline(lines, line);) {
+        const std::string input = line.substr(0, line.find(" => "));
+        EXPECT_EQ(input + " => " + read(input), line);
+    }
+}
+
+const char* const kClauses = R"(
+picture is a(5) usage is display => alphanumeric picture='a(5)' length='5'
+PIC XB(2)X => alphanumericEdited picture='XB(2)X' length='4'
+PIC N(4) => national picture='N(4)' usage='national' length='8'
+PIC S9(4) NATIONAL LEADING SEPARATE => numeric picture='S9(4)' usage='national' digits='4' sign='ls'
+PIC S9(5)V99 => numeric picture='S9(5)V99' digits='7' alignment='2'
+COMP-1 => numeric usage='comp-1'
+USAGE FLOAT-LONG => numeric usage='comp-2'
+PIC 9 BINARY => numeric picture='9' usage='comp-4' digits='1'
+PIC 9 PACKED-DECIMAL => numeric picture='9' usage='comp-3' digits='1'
+COMPUTATIONAL-5 PIC 9V9 => numeric picture='9V9' usage='comp-5' digits='2' alignment='1'
+INDEX => numeric usage='index'
+USAGE POINTER => numeric usage='pointer'
+BINARY-CHAR UNSIGNED => numeric picture='9(2)' usage='comp-5' digits='3'
+BINARY-SHORT => numeric picture='S9(4)' usage='comp-5' digits='5'
+BINARY-LONG SIGNED => numeric picture='S9(9)' usage='comp-5' digits='10'
+BINARY-DOUBLE UNSIGNED => numeric picture='9(18)' usage='comp-5' digits='20'
+PIC S9 SIGN IS LEADING => numeric picture='S9' digits='1' sign='li'
+PIC S9 LEADING SEPARATE CHARACTER => numeric picture='S9' digits='1' sign='ls'
+PIC S9 SIGN TRAILING SEPARATE => numeric picture='S9' digits='1' sign='ts'
+TRAILING PIC S9 => numeric picture='S9' digits='1'
+PIC XX JUST RIGHT => alphanumeric picture='XX' length='2' justified='right'
+PIC 99 BLANK WHEN ZEROES => numericEdited picture='99' length='2' blankWhenZero='true'
+PIC X OCCURS 012 => alphanumeric maxOccurs='12'
+OCCURS 0 TO 5 TIMES DEPENDING N IN R OF S PIC X => alphanumeric minOccurs='0' maxOccurs='5' odo='N OF R OF S'
+PIC X OCCURS 5 DEPENDING ON N => alphanumeric minOccurs='1' maxOccurs='5' odo='N'
+OCCURS 1 TO UNBOUNDED DEPENDING ON N PIC X => alphanumeric minOccurs='1' maxOccurs='unbounded' odo='N'
+OCCURS 2 ASCENDING KEY IS K L OF M DESCENDING A INDEXED BY I, J PIC X => alphanumeric maxOccurs='2' ascendingKey='K L OF M' descendingKey='A' indexedBy='I J'
+PIC 9 SYNC LEFT IS GLOBAL => numeric picture='9' digits='1' synchronized='left' global='true'
+IS EXTERNAL AS 'it''s' SYNCHRONIZED PIC X BASED => alphanumeric external='it's' synchronized='true' based='true'
+PIC X IDENTIFIED BY "a<b" NAMESPACE IS 'u&v' IS ATTRIBUTE COUNT IN N => alphanumeric identifiedBy='a&lt;b' namespace='u&amp;v' attribute='true' countIn='N'
+PIC X(3) VALUE ALL 'a"b''c' => alphanumeric picture='X(3)' length='3' value='ALL &quot;a&quot;&quot;b'c&quot;'
+PIC X VALUE 'a' & "b" => alphanumeric value='&quot;ab&quot;'
+PIC S9V9 VALUE -.5 => numeric picture='S9V9' digits='2' alignment='1' value='-.5'
+COMP-2 VALUE +1.5E-3 => numeric usage='comp-2' value='+1.5E-3'
+)";
+
+TEST(Entry, ClausesOfOneItem) {
+    Check(Element, kClauses);
+}
+
+TEST(Entry, ItemsTakeFromGroupsAndOtherItems) {
+    const char* const rows[][2] = {
+        // USAGE and SIGN reach down to what they fit, unless an item has its own.
+        {"01 G COMP-3 SIGN LEADING SEPARATE. 02 B PIC S9. 02 C PIC S9 DISPLAY. 02 D PIC 9 DISPLAY. "
+         "02 H SIGN TRAILING. 03 E PIC S9 DISPLAY. 03 F COMP-1. 77 I PIC S9.",
+         "<group name='G' level='01'><numeric name='B' level='02' picture='S9' usage='comp-3' "
+         "digits='1'/><numeric name='C' level='02' picture='S9' digits='1' sign='ls'/><numeric "
+         "name='D' level='02' picture='9' digits='1'/><group name='H' level='02'><numeric name='E' "
+         "level='03' picture='S9' digits='1'/><numeric name='F' level='03' usage='comp-1'/></group>"
+         "</group><numeric name='I' level='77' picture='S9' digits='1'/>"},
+        // Unnamed items; a redefinition; the levels of a copybook that belongs under a record.
+        {"05 FILLER. 10 INDEX. 10 filler INDEX. 05 B INDEX. 05 C REDEFINES b INDEX.",
+         "<group name='filler' level='05'><numeric name='filler' level='10' usage='index'/>"
+         "<numeric name='filler' level='10' usage='index'/></group><numeric name='B' level='05' "
+         "usage='index'/><numeric name='C' level='05' redefines='true' redefinedItem='b' "
+         "usage='index'/>"},
+        // Conditions; constants stand for numbers and values.
+        {"78 N VALUE 3. 01 M CONSTANT AS -1. 01 B PIC 9(n) OCCURS N. 88 C VALUE 1,2 M, N THRU 5.",
+         "<numericConstant name='N' value='3'/><numericConstant name='M' value='-1'/><numeric "
+         "name='B' level='01' picture='9(3)' digits='3' maxOccurs='3'><numericCondition name='C'>"
+         "<numericConstant value='1'/><numericConstant value='2'/><numericConstant value='-1'/>"
+         "<numericRange from='3' to='5'/></numericCondition></numeric>"},
+        {"01 G. 88 C VALUES ARE 'a' THROUGH 'c' \"x\" WHEN SET TO FALSE SPACE. 02 D COMP-1.",
+         "<group name='G' level='01'><alphanumericCondition name='C' falseValue='SPACE'>"
+         "<alphanumericRange from='&quot;a&quot;' to='&quot;c&quot;'/><alphanumericConstant "
+         "value='&quot;x&quot;'/></alphanumericCondition><numeric name='D' level='02' "
+         "usage='comp-1'/></group>"},
+    };
+    for (const auto& [source, expected] : rows) {
+        EXPECT_EQ(Read(source), expected);
+    }
+}
+
+// Another name for an item, or the bytes of several: 3 + 3 + 2 + 4 + 8 + 4 + 8 + 4 + 4 + 3 + 8 + 4
+// + 4 + 16, the redefinition not counted.
+TEST(Entry, RenamesDescribesAnItemOrARange) {
+    const std::string shown = Read(
+        "01 F. 02 B INDEX. 66 A RENAMES B. 01 G. 02 B PIC X(3). 02 C PIC S9(5) COMP-3. 02 D PIC "
+        "9(4) COMP. 02 E COMP-1. 02 F COMP-2. "
+        "02 H INDEX. 02 I POINTER. 02 J PIC NN. 02 K PIC S9(3) SIGN LEADING SEPARATE. "
+        "02 L. 03 M PIC X OCCURS 3. 02 N PIC 9(10) COMP-5. 02 O REDEFINES n. 03 C PIC X(8). "
+        "02 P. 03 Q PIC 9(9) BINARY. 03 V PIC 9(5) COMP. 03 R PIC 9(19) COMP. 66 S RENAMES B THRU "
+        "R OF P. "
+        "66 T RENAMES K IN G. 66 U RENAMES D THROUGH C OF O.");
+    EXPECT_EQ(shown.substr(shown.find("<alphanumeric name='S'")),
+              "<alphanumeric name='S' level='66' renames='B THRU R' length='75'/>"
+              "<numeric name='T' level='66' renames='K' picture='S9(3)' digits='3' sign='ls'/>"
+              "<alphanumeric name='U' level='66' renames='D THRU C' length='45'/></group>");
+}
+
+const char* const kComplaints = R"(
+50 A PIC X. => Level 50 is none of 01 to 49, 66, 77, 78 and 88
+001 A PIC X. => Level 001 is none of 01 to 49, 66, 77, 78 and 88
+01 A PIC X 05 B PIC X. => The period before 05 is missing
+01 A COMP-X. => Clause 'COMP-X' is not supported
+01 A PIC X PICTURE X. => Clause PICTURE is given twice
+01 A PIC X. 88 C PIC X VALUE 'a'. => A condition-name has a name, a VALUE clause and nothing else
+66 C VALUE 1. => An entry of level 66 has a name, a RENAMES clause and nothing else
+78 N VALUE 1 2. => A constant has a name, one value and nothing else
+01 A. 02 B PIC X. 02 C RENAMES B. => RENAMES belongs to level 66
+01 A PIC X VALUE 'a' 'b'. => Only a condition-name has several values
+01 A PIC X INDEXED BY I. => DEPENDING ON and INDEXED BY belong to an OCCURS clause
+01 A PIC X OCCURS 1 TO 5. => OCCURS with TO needs DEPENDING ON
+01 A PIC 9 BLANK WHEN. => BLANK WHEN ZERO is not complete
+01 A PIC X IS. => 'IS' is not expected here
+01 A PIC X OCCURS 5 TO 5 DEPENDING ON N. => OCCURS has no rising bounds
+01 A PIC X OCCURS 0. => OCCURS has no rising bounds
+01 A PIC. => PICTURE has no character-string
+01 A SIGN PIC S9. => SIGN is neither LEADING nor TRAILING
+01 A PIC 9 USAGE IS. => USAGE is not complete
+01 A USAGE FUNCTION-POINTER. => USAGE 'FUNCTION-POINTER' is not supported
+01 A PIC 9 BINARY-LONG. => A binary type has no PICTURE
+01 A- PIC X. => 'A-' is no name
+01 A REDEFINES. => A name is missing at the end of the entry
+01 A PIC X OCCURS 1234567890. => A whole number of at most nine digits is expected
+01 A PIC X NAMESPACE N. => A literal is expected
+01 A PIC X VALUE 'a' & X'41'. => Only plain literals can be joined by '&'
+01 A PIC X VALUE. => A value is missing at the end of the entry
+01 A PIC X VALUE B. => 'B' is no value
+01 A PIC X VALUE 'a. => The literal has no end
+01 A JUST. 02 B PIC X. => Item 'A' is a group, which is neither JUSTIFIED nor BLANK WHEN ZERO
+01 A COMP-1 PIC 9. => Item 'A' has a usage that takes no PICTURE
+01 A. => Item 'A' has neither a PICTURE nor items below it
+01 A PIC K. => PICTURE 'K' holds what is no PICTURE symbol
+01 A COMP. 02 B PIC X. => Item 'B' has USAGE COMP, which does not go with PICTURE 'X'
+01 PIC Z9 JUST. => Item 'FILLER' is numeric and cannot be JUSTIFIED
+01 A PIC S9 BLANK ZERO. => Item 'A' cannot be BLANK WHEN ZERO
+01 A PIC 9 COMP BLANK ZERO. => Item 'A' cannot be BLANK WHEN ZERO
+01 A PIC 9 LEADING. => Item 'A' has a SIGN clause but is no signed numeric item of USAGE DISPLAY
+DATA DIVISION. WORKING-STORAGE SECTION. 05 A PIC X. => 'A' stands under no level 01
+01 A PIC X. 02 B PIC X. => 'B' stands under an item that has a PICTURE
+88 C VALUE 1. => Condition-name 'C' stands behind no item
+01 A PIC X. 66 B RENAMES A. => 'B' renames items of no record
+01 A. 02 B PIC X. 01 C REDEFINES B PIC X. => REDEFINES names 'B', which does not stand before it beside it
+01 A. 02 B PIC X. 02 C PIC X. 66 D RENAMES C THRU B. => RENAMES names what does not stand in the record in that order
+PROCEDURE DIVISION. => The source holds no program and no data description
+01 A PIC X. AREA B. => 'AREA' begins no data description entry
+EXEC SQL INCLUDE SQLCA END-EXEC. => 'EXEC SQL INCLUDE' is not supported
+FD. => 'FD' names no file
+FILE SECTION. 01 A PIC X. => The record stands under no FD or SD
+01 A PIC X => The last entry does not end with a period
+)";
+
+TEST(Entry, EachComplaintNamesWhatIsWrong) {
+    Check(Complaint, kComplaints);
+}
+
+}  // namespace
