@@ -1,0 +1,3 @@
+>>IF B
+01 A PIC X.
+01  PIC X.
