@@ -1,0 +1,1 @@
+../../../../examples/claim-party.cpy

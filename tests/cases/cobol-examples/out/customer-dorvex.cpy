@@ -1,0 +1,28 @@
+        1 CUSTOMER identified by "CUSTOMER" count in CUSTOMER-count.
+         2 CUST-ID pic 9(6) identified by "CUST-ID" count in 
+            CUST-ID-count.
+         2 CUST-NAME pic X(20) identified by "CUST-NAME" count in 
+            CUST-NAME-count.
+         2 CUST-ADDRESS identified by "CUST-ADDRESS" count in 
+            CUST-ADDRESS-count.
+          3 STREET pic X(30) identified by "STREET" count in 
+             STREET-count.
+          3 CITY pic X(25) identified by "CITY" count in CITY-count.
+          3 POSTCODE pic X(8) identified by "POSTCODE" count in 
+             POSTCODE-count.
+         2 PHONE pic X(15) occurs 3 times identified by "PHONE" count in
+             PHONE-count.
+         2 BALANCE pic S9(7)V99 usage is comp-3 identified by "BALANCE" 
+            count in BALANCE-count.
+         2 CREDIT-LIMIT pic 9(7) usage is comp-4 identified by 
+            "CREDIT-LIMIT" count in CREDIT-LIMIT-count.
+         2 RATE usage is comp-1 identified by "RATE" count in 
+            RATE-count.
+         2 LAST-ORDER-COUNT pic 9(3) identified by "LAST-ORDER-COUNT" 
+            count in LAST-ORDER-COUNT-count.
+         2 LAST-ORDER occurs 0 to 12 times depending on LAST-ORDER-COUNT
+             identified by "LAST-ORDER" count in LAST-ORDER-count.
+          3 ORDER-NO pic 9(8) identified by "ORDER-NO" count in 
+             ORDER-NO-count.
+          3 ORDER-TOTAL pic S9(7)V99 sign is leading separate identified
+              by "ORDER-TOTAL" count in ORDER-TOTAL-count.
