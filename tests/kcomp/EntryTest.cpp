@@ -15,7 +15,8 @@ std::string Read(const std::string& source) {
     SourceFormat format = SourceFormat::Free;
     std::ostringstream complaints;
     CKTReport report(complaints);
-    CKTProgramReader reader(SplitIntoWords(ReadLogicalLines(source, format), "a"), "A", report);
+    CKTProgramReader reader(SplitIntoWords(ReadLogicalLines(source, format), "a"), "A", {"a", 1},
+                            report);
     const auto programs = reader.Read();
     std::string shown = complaints.str();
     if (shown.empty()) {
@@ -25,7 +26,7 @@ std::string Read(const std::string& source) {
         }
         const std::string start = "<dataItems>";
         shown.erase(0, shown.find(start) + start.size());
-        shown.erase(shown.find("</dataItems>"));
+        shown.erase(shown.rfind("</dataItems>"));
     }
     std::replace(shown.begin(), shown.end(), '"', '\'');
     return shown;
@@ -160,7 +161,10 @@ const char* const kComplaints = R"(
 78 N VALUE 1 2. => A constant has a name, one value and nothing else
 01 A. 02 B PIC X. 02 C RENAMES B. => RENAMES belongs to level 66
 01 A PIC X VALUE 'a' 'b'. => Only a condition-name has several values
-01 A PIC X INDEXED BY I. => DEPENDING ON and INDEXED BY belong to an OCCURS clause
+01 A PIC X INDEXED BY I. => DEPENDING ON, INDEXED BY and keys belong to an OCCURS clause
+01 A PIC X ASCENDING KEY B. => DEPENDING ON, INDEXED BY and keys belong to an OCCURS clause
+01 A PIC X OCCURS UNBOUNDED TO 5. => Clause 'TO' is not supported
+01 T IS TYPEDEF PIC X. => Clause 'TYPEDEF' is not supported
 01 A PIC X OCCURS 1 TO 5. => OCCURS with TO needs DEPENDING ON
 01 A PIC 9 BLANK WHEN. => BLANK WHEN ZERO is not complete
 01 A PIC X IS. => 'IS' is not expected here
@@ -170,7 +174,7 @@ const char* const kComplaints = R"(
 01 A SIGN PIC S9. => SIGN is neither LEADING nor TRAILING
 01 A PIC 9 USAGE IS. => USAGE is not complete
 01 A USAGE FUNCTION-POINTER. => USAGE 'FUNCTION-POINTER' is not supported
-01 A PIC 9 BINARY-LONG. => A binary type has no PICTURE
+01 A PIC 9 BINARY-LONG. => Item 'A' has a binary type, which takes no PICTURE
 01 A- PIC X. => 'A-' is no name
 01 A REDEFINES. => A name is missing at the end of the entry
 01 A PIC X OCCURS 1234567890. => A whole number of at most nine digits is expected
@@ -180,7 +184,7 @@ const char* const kComplaints = R"(
 01 A PIC X VALUE B. => 'B' is no value
 01 A PIC X VALUE 'a. => The literal has no end
 01 A JUST. 02 B PIC X. => Item 'A' is a group, which is neither JUSTIFIED nor BLANK WHEN ZERO
-01 A COMP-1 PIC 9. => Item 'A' has a usage that takes no PICTURE
+01 A COMP-1 PIC 9. => Item 'A' has a usage that takes neither PICTURE nor JUSTIFIED nor BLANK
 01 A. => Item 'A' has neither a PICTURE nor items below it
 01 A PIC K. => PICTURE 'K' holds what is no PICTURE symbol
 01 A COMP. 02 B PIC X. => Item 'B' has USAGE COMP, which does not go with PICTURE 'X'
@@ -193,17 +197,58 @@ DATA DIVISION. WORKING-STORAGE SECTION. 05 A PIC X. => 'A' stands under no level
 88 C VALUE 1. => Condition-name 'C' stands behind no item
 01 A PIC X. 66 B RENAMES A. => 'B' renames items of no record
 01 A. 02 B PIC X. 01 C REDEFINES B PIC X. => REDEFINES names 'B', which does not stand before it beside it
-01 A. 02 B PIC X. 02 C PIC X. 66 D RENAMES C THRU B. => RENAMES names what does not stand in the record in that order
+01 A. 02 B PIC X. 02 C PIC X. 66 D RENAMES C THRU B. => RENAMES names 'B', which does not stand behind 'C'
+01 A. 02 B PIC X. 66 D RENAMES C. => RENAMES names 'C', which the record does not have
+01 A. 02 B. 03 D PIC X. 02 C. 03 D PIC X. 66 E RENAMES D. => RENAMES names 'D', of which the record has several
+01 A. 02 B OCCURS 2. 03 D PIC X. 66 E RENAMES D. => RENAMES names 'D', which has OCCURS
+01 A. 02 B PIC X. 66 D RENAMES B. 02 C PIC X. => 'C' stands under no level 01
 PROCEDURE DIVISION. => The source holds no program and no data description
 01 A PIC X. AREA B. => 'AREA' begins no data description entry
 EXEC SQL INCLUDE SQLCA END-EXEC. => 'EXEC SQL INCLUDE' is not supported
 FD. => 'FD' names no file
 FILE SECTION. 01 A PIC X. => The record stands under no FD or SD
-01 A PIC X => The last entry does not end with a period
+01 A PIC X => The entry does not end with a period
+01 A COLOUR RED. 02 B PIC X. 02 C REDEFINES A. 88 D VALUE 1. 66 E RENAMES B. => Clause 'COLOUR' is not supported
+WORKING-STORAGE SECTION 01 A PIC X. => The section header has no period
 )";
 
 TEST(Entry, EachComplaintNamesWhatIsWrong) {
     Check(Complaint, kComplaints);
+}
+
+TEST(Entry, AMissingPeriodLosesNothing) {
+    const std::string error = " : Error : ";
+    EXPECT_EQ(Read("FD F\n01 A PIC X.\n"), "a(2)" + error + "The period before 01 is missing\n");
+    EXPECT_EQ(Read("01 A.\n02 E PIC 9.\n88 B VALUE 1\n88 C VALUE 2\n02 D FOO.\n"),
+              "a(4)" + error + "The period before 88 is missing\na(5)" + error +
+                  "The period before 02 is missing\na(5)" + error +
+                  "Clause 'FOO' is not supported\n");
+    EXPECT_EQ(Read("01 A PIC X\nPROCEDURE DIVISION. MOVE A TO B. MOVE C TO D."),
+              "a(1)" + error + "The entry does not end with a period\n");
+    const std::string many = Read("01 A." + std::string(300, '.') + [] {
+        std::string entries;
+        for (int i = 0; i < 200; ++i) {
+            entries += " FOO.";
+        }
+        return entries;
+    }());
+    EXPECT_TRUE(many.ends_with("\nkcomp : Error : There are more errors\n"));
+    EXPECT_EQ(std::count(many.begin(), many.end(), '\n'), 101);
+}
+
+TEST(Entry, SpecialNamesEndWithTheirProgram) {
+    const std::string special = "ENVIRONMENT DIVISION. DECIMAL-POINT IS COMMA. CURRENCY 'F'. ";
+    const std::string data = "DATA DIVISION. WORKING-STORAGE SECTION. ";
+    const std::string shown =
+        Read("PROGRAM-ID. A. " + special + data + "01 B PIC FF9,9 VALUE 1,5. " + "PROGRAM-ID. C. " +
+             data + "01 D PIC 9,9. END PROGRAM C. END PROGRAM A. " + "PROGRAM-ID. E. " + data +
+             "01 F PIC $$9.9 VALUE 1.5.");
+    EXPECT_EQ(shown,
+              "<numericEdited name='B' level='01' picture='FF9,9' length='5' value='1,5'/>"
+              "</dataItems></program><program name='C'><dataItems>"
+              "<numericEdited name='D' level='01' picture='9,9' length='3'/>"
+              "</dataItems></program><program name='E'><dataItems>"
+              "<numericEdited name='F' level='01' picture='$$9.9' length='5' value='1.5'/>");
 }
 
 }  // namespace

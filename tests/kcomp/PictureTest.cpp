@@ -54,10 +54,10 @@ TEST(Picture, SymbolsDecideCategoryAndSize) {
         {"text 2147483647", "X(2147483647)"},
         {"text-edited 5", "XX/XX A(3)B9 X000X"},
         {"national 6", "N(6) NBN/N0"},
-        {"num-edited 2", "Z9PP ++ PP*9"},
+        {"num-edited 2", "Z9PP ++"},
         {"num-edited 3", "9B9 ZZZ .99 $99"},
         {"num-edited 4", "ZZV99 -9(3) -$99"},
-        {"num-edited 7", "9(5)db **9.99- +.9E+99"},
+        {"num-edited 7", "9(5)db **9.99- +.9E+99 9.9E+99 +9.9E+9"},
         {"num-edited 8", "Z,ZZ9.99 -9V99E-99"},
         {"num-edited 10", "99/99/9999"},
         {"num-edited 12", "$$$,$$9.99CR"},
@@ -70,7 +70,8 @@ TEST(Picture, WhatIsNoPictureIsNamed) {
         {"holds what is no PICTURE symbol", "K9 9C G(5) X() X(0) X(2 X(A) (2)"},
         {"fits no category of data",
          "S SS9 9S SX V 9V9V9 9VV9 VP PV9 9P9 NX N9 / CR + 9Z Z*9 9.9.9 9V9.9 99+9 9-- 99$ CR99 "
-         "+9CR +9- Z9CRDB ZPZ9 9.9E+99 +9E+99 +9.9E+9 +9.9E99 ++9.9E+99"},
+         "+9CR +9- Z9CRDB ZPZ9 PP*9 +Z+ $$ZZ $+9 +9.9E99 "
+         "++9.9E+99"},
         {"has more than 38 digits", "S9(39) 9(20)V9(19) 9P(38)"},
         {"is too long", "X(2147483648) X(99999999999999999999)9(99999999999999999999)"},
     };

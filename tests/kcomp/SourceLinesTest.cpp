@@ -81,7 +81,9 @@ TEST(SourceLines, FixedTextStandsInColumns8To72) {
               "1: !Column 7 holds \"x\", which is no indicator of the fixed format");
     EXPECT_EQ(
         Fixed(kBody + "01 A.\n" + kBody + "02\x01.\n" + kBody + "03 B.\x1A\n" + kBody + "04."),
-        "1: 01 A . 2: !The line holds a control character 3: 03 B .");
+        "1: 01 A . 2: !The line holds a control character 3: 03 B . !Text follows the mark of the "
+        "end "
+        "of file");
 }
 
 TEST(SourceLines, ContinuedLinesAreOne) {
