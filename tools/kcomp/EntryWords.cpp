@@ -142,7 +142,7 @@ std::string CKTEntryReader::TakeWordValue() {
     const char point = m_Context.symbols.decimalComma ? ',' : '.';
     // Commas without blanks behind them separate numbers as well.
     const std::size_t comma = point == ',' ? std::string::npos : word.text.find(',', m_nPiece);
-    const std::string text = word.text.substr(m_nPiece, comma - m_nPiece);
+    std::string text = word.text.substr(m_nPiece, comma - m_nPiece);
     if (word.kind == WordKind::Word && IsNumber(text, point)) {
         m_nPiece = comma == std::string::npos ? 0 : comma + 1;
         m_nAt += comma == std::string::npos ? 1 : 0;

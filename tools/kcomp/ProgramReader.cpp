@@ -190,7 +190,7 @@ void CKTProgramReader::TakeFile() {
         if (part.kind == WordKind::Fault) {
             m_Context.report.Error(part.place, part.text);
         } else if (beginsLine && Is(at, "01")) {
-            m_Context.report.Error(part.place, "The period before 01 is missing");
+            m_Context.report.Error(part.place, "The period before " + part.text + " is missing");
             m_nAt = at;
             return;
         }
