@@ -16,7 +16,8 @@ constexpr int kLastColumn = 72;
 constexpr int kFreshEntry = 73;  // as a column: nothing of the entry is written yet
 constexpr int kMaxIndent = 48;
 constexpr std::size_t kMaxBlanks = 254;
-constexpr std::string_view kBlanks = " \t";
+// A line break in a value would end the entry's line in the middle, so it counts as a blank.
+constexpr std::string_view kBlanks = " \t\r\n";
 constexpr std::string_view kCommentStart = "      *   ";
 constexpr std::string_view kContinuationStart = "      -   ";
 

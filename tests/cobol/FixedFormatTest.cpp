@@ -60,6 +60,7 @@ TEST(FixedFormat, EntriesStayWithinColumn72) {
         {"long word of a comment", "* " + Of(70, 'w'),
          "      * " + kComment + Of(62, 'w') + kComment + Of(8, 'w')},
         {"tabs", "01\t\tA  \t B.  ", kEntry + "01  A    B."},
+        {"line breaks", "01 A\r\nB\n\nC.\n", kEntry + "01 A  B  C."},
         {"long blanks", "01" + Of(314, ' ') + "A.",
          kEntry + "01" + cutBlanks + Of(6, ' ') + kNextLine + Of(60, ' ') + "A."},
         {"empty", "", ""},
