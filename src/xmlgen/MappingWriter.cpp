@@ -21,11 +21,11 @@ unsigned CKTXMLGenerator::OutputExternalMappingFileElement(const CKTXMLElement* 
                                                            unsigned indent, int /*level*/,
                                                            TraversalFlags& flags) {
     const DictionaryKind kind = DictionaryKindOf(item);
-    if (IsRedefinition(item)) {
-        return indent;
-    }
     if (kind == DictionaryKind::Program) {
         return WriteMappingRoot(indent, flags);
+    }
+    if (IsRedefinition(item)) {
+        return indent;
     }
     if (IsDataItem(kind)) {
         flags.descend = true;
@@ -76,11 +76,11 @@ unsigned CKTXMLGenerator::OutputInternalMappingFileElement(const CKTXMLElement* 
                                                            unsigned indent, int level,
                                                            TraversalFlags& flags) {
     const DictionaryKind kind = DictionaryKindOf(item);
-    if (IsRedefinition(item)) {
-        return indent;
-    }
     if (kind == DictionaryKind::Program) {
         return WriteServiceRoot(item, indent, flags);
+    }
+    if (IsRedefinition(item)) {
+        return indent;
     }
     if (!IsDataItem(kind)) {
         return indent;

@@ -74,12 +74,12 @@ bool BeginsWithRange(const CKTXMLElement* condition) {
 
 unsigned CKTXMLGenerator::OutputXMLSchemaFileElement(const CKTXMLElement* item, unsigned indent,
                                                      int level, TraversalFlags& flags) {
-    if (IsRedefinition(item)) {
-        return indent;
-    }
     const DictionaryKind kind = DictionaryKindOf(item);
     if (kind == DictionaryKind::Program) {
         return WriteSchemaRoot(indent, flags);
+    }
+    if (IsRedefinition(item)) {
+        return indent;
     }
     if (kind == DictionaryKind::Group) {
         return WriteGroup(item, indent, level, flags);
