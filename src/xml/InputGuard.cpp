@@ -22,6 +22,7 @@
 #include "support/Text.h"
 #include "xml/InputSources.h"
 #include "xml/KTDOMErrorHandler.h"
+#include "xml/PatternSize.h"
 
 using xercesc::SAXParseException;
 
@@ -29,16 +30,17 @@ namespace {
 
 constexpr int kMaxSchemaDepth = 20000;
 constexpr XMLSize_t kMaxEntityText = 20'000'000;
+constexpr std::uint64_t kMaxPatternParts = 1'000'000;
 
-/// Watches one reading pass: nesting, the text that comes from entities, and a fatal error in a
-/// schema that may declare entities.
+/// Watches one reading pass: nesting, the text that comes from entities, the patterns of a schema,
+/// and a fatal error in a schema that may declare entities.
 class CKTGuardHandler : public xercesc::DefaultHandler {
 public:
     explicit CKTGuardHandler(bool schema) : m_bSchema(schema) {}
 
     void setDocumentLocator(const xercesc::Locator* locator) override { m_pLocator = locator; }
     void startDTD(const XMLCh*, const XMLCh*, const XMLCh*) override { m_bDocumentType = true; }
-    void startElement(const XMLCh*, const XMLCh*, const XMLCh*,
+    void startElement(const XMLCh*, const XMLCh*, const XMLCh* name,
                       const xercesc::Attributes& attributes) override {
         m_bStarted = true;
         if (++m_nDepth == kMaxSchemaDepth + 1 && m_bSchema) {
@@ -49,6 +51,9 @@ public:
             for (XMLSize_t i = 0; i < attributes.getLength(); ++i) {
                 CountText(xercesc::XMLString::stringLen(attributes.getValue(i)));
             }
+        }
+        if (m_bSchema) {
+            CountPattern(name, attributes);
         }
     }
     void endElement(const XMLCh*, const XMLCh*, const XMLCh*) override { --m_nDepth; }
@@ -80,6 +85,20 @@ private:
                    " characters");
         }
     }
+    void CountPattern(std::u16string_view name, const xercesc::Attributes& attributes) {
+        const XMLCh* pattern = attributes.getValue(u"value");
+        if (pattern == nullptr || (name != u"pattern" && !name.ends_with(u":pattern"))) {
+            return;
+        }
+        const PatternSize size = MeasurePattern(pattern);
+        m_nPatternParts += size.parts;
+        if (size.depth > kMaxSchemaDepth) {
+            Refuse("a pattern is nested deeper than " + std::to_string(kMaxSchemaDepth) +
+                   " levels");
+        } else if (m_nPatternParts > kMaxPatternParts) {
+            Refuse("patterns repeat to more than " + std::to_string(kMaxPatternParts) + " parts");
+        }
+    }
     void Refuse(const std::string& reason) {
         m_Refusal.emplace(WidenText(reason).c_str(), *m_pLocator);
     }
@@ -90,6 +109,7 @@ private:
     int m_nDepth = 0;
     int m_nOpenEntities = 0;
     XMLSize_t m_nEntityText = 0;
+    std::uint64_t m_nPatternParts = 0;
     bool m_bDocumentType = false;
     bool m_bStarted = false;
 };

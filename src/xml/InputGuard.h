@@ -7,10 +7,10 @@
 class CKTDOMErrorHandler;
 
 /// Reads inputs once before the library works on them, because the library bounds neither the
-/// nesting of a schema, which its grammar loader follows with its own stack, nor the text that
-/// entities expand to. As entity resolver it also sees every schema that the library reaches by
-/// include, import or redefine. What it refuses is reported once through the error handler, which
-/// is then muted for what follows from it.
+/// nesting of a schema, which its grammar loader follows with its own stack, nor the size of its
+/// patterns, nor the text that entities expand to. As entity resolver it also sees every schema
+/// that the library reaches by include, import or redefine. What it refuses is reported once
+/// through the error handler, which is then muted for what follows from it.
 class CKTInputGuard : public xercesc::XMLEntityResolver {
 public:
     /// `handler` reports refusals; borrowed, must outlive the guard.
@@ -20,8 +20,8 @@ public:
     xercesc::InputSource* resolveEntity(xercesc::XMLResourceIdentifier* resource) override;
 
     /// Says whether the schema can be loaded safely. False after it was reported: nested too
-    /// deeply, its entities too large, or not well-formed together with a document type. A source
-    /// that cannot be opened is left to the library's own report.
+    /// deeply, its patterns or its entities too large, or not well-formed together with a document
+    /// type. A source that cannot be opened is left to the library's own report.
     bool IsAcceptableSchema(const xercesc::InputSource& source);
 
     /// Says whether a document can be parsed safely; only one with a document type is read to its
