@@ -38,8 +38,8 @@ std::string_view ElementAt(std::string_view text, std::size_t at) {
 }  // namespace
 
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
-                                               std::size_t maximum, unsigned seed) {
-    std::minstd_rand random(seed);
+                                               std::size_t maximum, unsigned number) {
+    std::minstd_rand random(number);
     const std::string before(data, data + size);
     const auto find = random() % 2 == 0 ? ElementAt : AttributeAt;
     const std::string_view piece = find(before, random() % (size + 1));

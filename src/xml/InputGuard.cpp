@@ -30,7 +30,7 @@ namespace {
 
 constexpr int kMaxSchemaDepth = 20000;
 constexpr XMLSize_t kMaxEntityText = 20'000'000;
-constexpr std::uint64_t kMaxPatternParts = 1'000'000;
+constexpr std::uint64_t kMaxPatternParts = 5'000'000;
 
 /// Watches one reading pass: nesting, the text that comes from entities, the patterns of a schema,
 /// and a fatal error in a schema that may declare entities.

@@ -77,20 +77,20 @@ private:
     /// Takes the literal that begins here and whose first quotation mark stands at `quote`.
     void TakeLiteral(std::size_t quote) {
         const char mark = m_sText[quote];
-        std::size_t end = quote + 1;
-        for (;; ++end) {
-            end = m_sText.find(mark, end);
-            if (end == std::string_view::npos) {
-                m_Words.push_back({WordKind::Fault, false, "The literal has no end", Place()});
-                m_nAt = m_sText.size();
-                return;
-            }
-            if (m_sText.substr(end + 1, 1) != std::string_view(&mark, 1)) {
-                break;
-            }
-            ++end;  // a doubled mark stands for one of the text
+        const auto isMark = [this, mark](std::size_t at) {
+            return at < m_sText.size() && m_sText[at] == mark;
+        };
+        std::size_t end = m_sText.find(mark, quote + 1);
+        // A doubled mark stands for one of the text.
+        while (isMark(end) && isMark(end + 1)) {
+            end = m_sText.find(mark, end + 2);
         }
-        Add(WordKind::Literal, end + 1);
+        if (isMark(end)) {
+            Add(WordKind::Literal, end + 1);
+        } else {
+            m_Words.push_back({WordKind::Fault, false, "The literal has no end", Place()});
+            m_nAt = m_sText.size();
+        }
     }
 
     [[nodiscard]] bool EndsWord(std::size_t at) const {
