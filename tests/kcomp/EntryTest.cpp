@@ -122,6 +122,11 @@ TEST(Entry, ItemsTakeFromGroupsAndOtherItems) {
          "name='B' level='01' picture='9(3)' digits='3' maxOccurs='3'><numericCondition name='C'>"
          "<numericConstant value='1'/><numericConstant value='2'/><numericConstant value='-1'/>"
          "<numericRange from='3' to='5'/></numericCondition></numeric>"},
+        {"78 N VALUE 3. 01 B PIC 9. 88 C VALUE ZERO,1 THRU N,7 'A',SPACE.",
+         "<numericConstant name='N' value='3'/><numeric name='B' level='01' picture='9' digits='1'>"
+         "<numericCondition name='C'><numericConstant value='ZERO'/><numericRange from='1' to='3'/>"
+         "<numericConstant value='7'/><numericConstant value='&quot;A&quot;'/><numericConstant "
+         "value='SPACE'/></numericCondition></numeric>"},
         {"01 G. 88 C VALUES ARE 'a' THROUGH 'c' \"x\" WHEN SET TO FALSE SPACE. 02 D COMP-1.",
          "<group name='G' level='01'><alphanumericCondition name='C' falseValue='SPACE'>"
          "<alphanumericRange from='&quot;a&quot;' to='&quot;c&quot;'/><alphanumericConstant "
@@ -206,6 +211,10 @@ PROCEDURE DIVISION. => The source holds no program and no data description
 01 A PIC X. AREA B. => 'AREA' begins no data description entry
 EXEC SQL INCLUDE SQLCA END-EXEC. => 'EXEC SQL INCLUDE' is not supported
 FD. => 'FD' names no file
+DATA DIVISION. 01 A PIC X. => '01' stands in no section
+DATA DIVISION. STORAGE SECTION. 01 A PIC X. => Section 'STORAGE' is not known
+ENVIRONMENT DIVISION. CURRENCY 'F. => The literal has no end
+WORKING-STORAGE SECTION. 01 A PIC X. PROCEDURE DIVISION. B SECTION. DISPLAY 'x. => <alphanumeric name='A' level='01' picture='X' length='1'/>
 FILE SECTION. 01 A PIC X. => The record stands under no FD or SD
 01 A PIC X => The entry does not end with a period
 01 A COLOUR RED. 02 B PIC X. 02 C REDEFINES A. 88 D VALUE 1. 66 E RENAMES B. => Clause 'COLOUR' is not supported
@@ -219,6 +228,12 @@ TEST(Entry, EachComplaintNamesWhatIsWrong) {
 TEST(Entry, AMissingPeriodLosesNothing) {
     const std::string error = " : Error : ";
     EXPECT_EQ(Read("FD F\n01 A PIC X.\n"), "a(2)" + error + "The period before 01 is missing\n");
+    EXPECT_EQ(Read("FD F\nFD G LABEL RECORD STANDARD 01 A PIC X."),
+              "a(2)" + error + "The period before FD is missing\na(2)" + error +
+                  "The period before 01 is missing\n");
+    // Numbers of an FD are no levels.
+    EXPECT_EQ(Read("FD F RECORD CONTAINS\n01 TO\n40\nLABEL RECORD IS STANDARD.\n01 A PIC Q."),
+              "a(5)" + error + "PICTURE 'Q' holds what is no PICTURE symbol\n");
     EXPECT_EQ(Read("01 A.\n02 E PIC 9.\n88 B VALUE 1\n88 C VALUE 2\n02 D FOO.\n"),
               "a(4)" + error + "The period before 88 is missing\na(5)" + error +
                   "The period before 02 is missing\na(5)" + error +

@@ -140,20 +140,17 @@ std::string CKTEntryReader::TakeWordValue() {
     }
     const TextWord& word = m_Words[m_nAt];
     const char point = m_Context.symbols.decimalComma ? ',' : '.';
-    // Commas without blanks behind them separate numbers as well.
+    // Commas without blanks behind them separate values as well.
     const std::size_t comma = point == ',' ? std::string::npos : word.text.find(',', m_nPiece);
     std::string text = word.text.substr(m_nPiece, comma - m_nPiece);
-    if (word.kind == WordKind::Word && IsNumber(text, point)) {
-        m_nPiece = comma == std::string::npos ? 0 : comma + 1;
-        m_nAt += comma == std::string::npos ? 1 : 0;
-        return text;
-    }
-    const std::string* constant = ConstantOf(text);
-    if (word.kind != WordKind::Word || (constant == nullptr && !IsFigurative(text))) {
+    const bool number = word.kind == WordKind::Word && IsNumber(text, point);
+    const std::string* constant = number ? nullptr : ConstantOf(text);
+    if (!number && (word.kind != WordKind::Word || (constant == nullptr && !IsFigurative(text)))) {
         FailBecauseOfWord();
         return {};
     }
-    ++m_nAt;
+    m_nPiece = comma == std::string::npos ? 0 : comma + 1;
+    m_nAt += comma == std::string::npos ? 1 : 0;
     return constant == nullptr ? text : *constant;
 }
 

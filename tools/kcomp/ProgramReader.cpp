@@ -10,9 +10,23 @@ namespace {
 // Lines that steer a listing and may stand between entries.
 constexpr std::array<std::string_view, 4> kListingWords = {"EJECT", "SKIP1", "SKIP2", "SKIP3"};
 
-bool IsListingWord(const TextWord& word) {
-    return std::any_of(kListingWords.begin(), kListingWords.end(),
+constexpr std::array<std::string_view, 5> kOtherSections = {"LINKAGE", "LOCAL-STORAGE", "SCREEN",
+                                                            "REPORT", "COMMUNICATION"};
+
+// What may follow a number in the clauses of an FD.
+constexpr std::array<std::string_view, 18> kFileClauseWords = {
+    "TO",     "CHARACTERS", "RECORDS", "RECORD",    "LINES",    "LINE",
+    "LABEL",  "DATA",       "BLOCK",   "VALUE",     "CODE-SET", "REPORT",
+    "LINAGE", "TOP",        "BOTTOM",  "RECORDING", "WITH",     "DEPENDING"};
+
+template <std::size_t N>
+bool IsWordOf(const std::array<std::string_view, N>& texts, const TextWord& word) {
+    return std::any_of(texts.begin(), texts.end(),
                        [&word](std::string_view text) { return IsWord(word, text); });
+}
+
+bool IsListingWord(const TextWord& word) {
+    return IsWordOf(kListingWords, word);
 }
 
 bool IsLevel(const TextWord& word) {
@@ -43,7 +57,7 @@ std::deque<ProgramData> CKTProgramReader::Read() {
         if (InData()) {
             TakeEntry();
         } else {
-            TakeSpecialName();
+            TakeOutside();
         }
     }
     EndArea();
@@ -62,9 +76,9 @@ bool CKTProgramReader::TakeHeader() {
         TakeDivision();
     } else if (IsSection(m_nAt)) {
         TakeSection();
-    } else if (Is(m_nAt, "PROGRAM-ID")) {
+    } else if (Is(m_nAt, "PROGRAM-ID") || Is(m_nAt, "FUNCTION-ID")) {
         TakeProgramName();
-    } else if (Is(m_nAt, "END") && Is(m_nAt + 1, "PROGRAM")) {
+    } else if (Is(m_nAt, "END") && (Is(m_nAt + 1, "PROGRAM") || Is(m_nAt + 1, "FUNCTION"))) {
         TakeEndProgram();
     } else {
         return false;
@@ -74,9 +88,11 @@ bool CKTProgramReader::TakeHeader() {
 
 void CKTProgramReader::TakeDivision() {
     EndArea();
-    m_Place = Is(m_nAt, "ENVIRONMENT") ? Place::Environment : Place::Elsewhere;
+    m_Place = Is(m_nAt, "ENVIRONMENT") ? Place::Environment
+              : Is(m_nAt, "DATA")      ? Place::DataDivision
+                                       : Place::Elsewhere;
     m_bBare = false;
-    m_nAt += 2;
+    m_nAt += IsPeriod(m_nAt + 2) ? 3 : 2;
 }
 
 void CKTProgramReader::TakeSection() {
@@ -88,11 +104,15 @@ void CKTProgramReader::TakeSection() {
         if (!IsPeriod(m_nAt + 2)) {
             m_Context.report.Error(m_Words[m_nAt].place, "The section header has no period");
         }
-    } else if (InData()) {
+    } else if (InData() || m_Place == Place::DataDivision) {
+        if (!IsWordOf(kOtherSections, m_Words[m_nAt])) {
+            m_Context.report.Error(m_Words[m_nAt].place,
+                                   "Section " + ShownWord(m_Words[m_nAt]) + " is not known");
+        }
         EndArea();
         m_Place = Place::Elsewhere;
     }
-    m_nAt += 2;
+    m_nAt += IsPeriod(m_nAt + 2) ? 3 : 2;
 }
 
 // PROGRAM-ID. name
@@ -120,6 +140,22 @@ void CKTProgramReader::TakeEndProgram() {
     m_Place = Place::Elsewhere;
     m_nNesting -= m_nNesting > 0 ? 1 : 0;
     m_nAt += 2;
+}
+
+/// What stands outside data is passed over. Where data or its special names may be missing because
+/// of a fault, the fault counts.
+void CKTProgramReader::TakeOutside() {
+    const TextWord& word = m_Words[m_nAt];
+    const bool counts = m_Place == Place::Environment || m_Place == Place::DataDivision;
+    if (word.kind == WordKind::Fault && counts) {
+        m_Context.report.Error(word.place, word.text);
+        ++m_nAt;
+    } else if (m_Place == Place::DataDivision && !IsSection(m_nAt + 1)) {
+        m_Context.report.Error(word.place, ShownWord(word) + " stands in no section");
+        SkipPast(EndOfEntry());
+    } else {
+        TakeSpecialName();
+    }
 }
 
 // DECIMAL-POINT IS COMMA; CURRENCY SIGN IS literal [WITH PICTURE SYMBOL literal]
@@ -186,16 +222,29 @@ void CKTProgramReader::TakeFile() {
     const std::size_t end = EndOfEntry();
     for (std::size_t at = m_nAt + 1; at < end; ++at) {
         const TextWord& part = m_Words[at];
-        const bool beginsLine = part.place.line != m_Words[at - 1].place.line;
         if (part.kind == WordKind::Fault) {
             m_Context.report.Error(part.place, part.text);
-        } else if (beginsLine && Is(at, "01")) {
+        } else if (BeginsMissedEntry(at)) {
             m_Context.report.Error(part.place, "The period before " + part.text + " is missing");
             m_nAt = at;
             return;
         }
     }
     SkipPast(end);
+}
+
+/// Whether an entry begins among the clauses of an FD, because the period before it is missing:
+/// another FD, or a level number, which can be told from other numbers by what follows.
+bool CKTProgramReader::BeginsMissedEntry(std::size_t at) const {
+    const TextWord& word = m_Words[at];
+    const bool beginsLine = word.place.line != m_Words[at - 1].place.line;
+    if (beginsLine && (Is(at, "FD") || Is(at, "SD"))) {
+        return true;
+    }
+    const bool number = IsLevel(word) && (beginsLine || word.text == "01");
+    return number && word.text.size() <= 2 && at + 1 < m_Words.size() &&
+           m_Words[at + 1].kind == WordKind::Word && !IsLevel(m_Words[at + 1]) &&
+           !IsWordOf(kFileClauseWords, m_Words[at + 1]);
 }
 
 void CKTProgramReader::TakeDataEntry() {
@@ -272,7 +321,7 @@ std::size_t CKTProgramReader::EndOfEntry() {
     if (m_nEnd <= m_nAt) {
         m_nEnd = m_nAt + 1;
         while (m_nEnd < m_Words.size() && !IsPeriod(m_nEnd) && !IsDivision(m_nEnd) &&
-               !(InData() && IsSection(m_nEnd))) {
+               !((InData() || m_Place == Place::DataDivision) && IsSection(m_nEnd))) {
             ++m_nEnd;
         }
     }

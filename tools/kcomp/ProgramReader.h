@@ -26,7 +26,7 @@ public:
     std::deque<ProgramData> Read();
 
 private:
-    enum class Place { Elsewhere, Environment, WorkingStorage, FileSection };
+    enum class Place { Elsewhere, Environment, DataDivision, WorkingStorage, FileSection };
 
     bool TakeHeader();
     void TakeDivision();
@@ -34,6 +34,7 @@ private:
     void TakeProgramName();
     void TakeEndProgram();
     void TakeSpecialName();
+    void TakeOutside();
     void TakeEntry();
     void TakeFile();
     void TakeDataEntry();
@@ -46,6 +47,7 @@ private:
     [[nodiscard]] bool IsPeriod(std::size_t at) const;
     [[nodiscard]] bool IsDivision(std::size_t at) const;
     [[nodiscard]] bool IsSection(std::size_t at) const;
+    [[nodiscard]] bool BeginsMissedEntry(std::size_t at) const;
     [[nodiscard]] bool InData() const;
     std::size_t EndOfEntry();
     void SkipPast(std::size_t end);

@@ -199,7 +199,8 @@ DataItem* CKTRecordBuilder::FindRenamed(const DataItem& item, const std::string&
         if (!IsBelow(candidate->second, groups)) {
             continue;
         }
-        if (found != nullptr) {
+        // An item below two groups of one name stands there twice.
+        if (found != nullptr && found != candidate->second) {
             m_Context.report.Error(item.place, "RENAMES names " + Quoted(qualifiedName) +
                                                    ", of which the record has several");
             return nullptr;

@@ -196,6 +196,7 @@ std::vector<LogicalLine> ReadLogicalLines(std::string_view content, SourceFormat
         const std::size_t end = line.find(kEndOfFileMark);
         reader.Add(line.substr(0, end));
         if (end != std::string_view::npos) {
+            reader.End(line.substr(end));
             reader.End(content);
             break;
         }

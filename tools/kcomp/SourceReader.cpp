@@ -38,10 +38,14 @@ std::optional<std::string> ContentOf(const std::string& path) {
 /// The index behind the period that ends a statement; periods of pseudo-text are none.
 std::size_t EndOfStatement(const std::vector<TextWord>& words, std::size_t at) {
     bool pseudo = false;
+    std::size_t first = words.size();  // the first period of all, for pseudo-text without an end
     while (at < words.size() && (pseudo || words[at].kind != WordKind::Period)) {
+        if (first == words.size() && words[at].kind == WordKind::Period) {
+            first = at;
+        }
         pseudo ^= words[at++].kind == WordKind::Pseudo;
     }
-    return std::min(at + 1, words.size());
+    return std::min(at == words.size() ? first + 1 : at + 1, words.size());
 }
 
 TextWord FaultAt(const SourcePlace& place, std::string text) {
@@ -93,9 +97,10 @@ std::vector<TextWord> CKTSourceReader::Expand(std::vector<TextWord> words, Sourc
 
 /// REPLACE would change all text that follows, wherever it stands.
 void CKTSourceReader::RefuseReplace(const std::vector<TextWord>& words, std::size_t at) {
-    const bool statement = IsWord(words[at], "REPLACE") && at + 1 < words.size() &&
-                           (words[at + 1].kind == WordKind::Pseudo ||
-                            IsWord(words[at + 1], "LEADING") || IsWord(words[at + 1], "TRAILING"));
+    const bool statement =
+        IsWord(words[at], "REPLACE") && at + 1 < words.size() &&
+        (words[at + 1].kind == WordKind::Pseudo || IsWord(words[at + 1], "ALSO") ||
+         IsWord(words[at + 1], "LEADING") || IsWord(words[at + 1], "TRAILING"));
     if (statement) {
         m_Report.Error(words[at].place, "\"REPLACE\" is not supported");
     }

@@ -100,11 +100,16 @@ private:
     }
 
     /// A point, comma or semicolon ends a word when a blank, the end of the line or of pseudo-text
-    /// follows; a comma also before a literal.
+    /// follows; a comma also before and behind a literal.
     [[nodiscard]] bool IsSeparator(std::size_t at) const {
         const char c = m_sText[at];
         if (c != '.' && c != ',' && c != ';') {
             return false;
+        }
+        const bool behindLiteral =
+            at == m_nAt && m_bGlued && !m_Words.empty() && m_Words.back().kind == WordKind::Literal;
+        if (c != '.' && behindLiteral) {
+            return true;
         }
         return at + 1 == m_sText.size() || m_sText[at + 1] == ' ' ||
                m_sText.substr(at + 1, 2) == "==" || (c != '.' && IsQuote(m_sText[at + 1]));
