@@ -88,9 +88,12 @@ bool CKTProgramReader::TakeHeader() {
 
 void CKTProgramReader::TakeDivision() {
     EndArea();
-    m_Place = Is(m_nAt, "ENVIRONMENT") ? Place::Environment
-              : Is(m_nAt, "DATA")      ? Place::DataDivision
-                                       : Place::Elsewhere;
+    m_Place = Place::Elsewhere;
+    if (Is(m_nAt, "ENVIRONMENT")) {
+        m_Place = Place::Environment;
+    } else if (Is(m_nAt, "DATA")) {
+        m_Place = Place::DataDivision;
+    }
     m_bBare = false;
     m_nAt += IsPeriod(m_nAt + 2) ? 3 : 2;
 }
