@@ -2,7 +2,6 @@
 #define DORVEX_KCOMP_ENTRYREADER_H
 
 #include <memory>
-#include <optional>
 #include <set>
 #include <span>
 #include <string>

@@ -17,12 +17,12 @@ public:
     CKTRecordBuilder(RecordArea& area, bool bare, ReadingContext& context)
         : m_Area(area), m_bBare(bare), m_Context(context) {}
 
-    /// Puts an item where its level says. Complains when the item cannot stand there, and then
-    /// leaves it out.
+    /// Puts an item where its level says. Complains when the item cannot stand there; what stands
+    /// below an item that was skipped is left out without a word.
     void Add(std::unique_ptr<DataItem> item);
 
-    /// Passes over what stands below an item that could not be read, so that one fault is one
-    /// complaint.
+    /// Takes an item that could not be read: its name stays known to REDEFINES, and what stands
+    /// below it is passed over, so that one fault is one complaint.
     void Skip(std::unique_ptr<DataItem> item);
 
     /// Says that the record lacks items, so that nothing is said about what depends on them.
