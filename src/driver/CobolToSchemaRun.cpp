@@ -178,7 +178,6 @@ private:
 /// Writes the outputs of a compiled source. Returns 0, or 1 when the run ends with a message.
 int WriteOutputs(CKTDOMParser& parser, const Settings& settings, const FileNames& names) {
     const std::unique_ptr<CKTXMLElement> root = parser.getXMLDocument();
-    parser.ReleaseDocument();
     CKTXMLCOBOLExternalMapping mapping;
     CKTXMLGenerator generator;
     generator.setCOBOLDataDictionary(root.get());

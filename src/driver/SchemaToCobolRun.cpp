@@ -5,7 +5,7 @@
 #include "driver/Runs.h"
 #include "schema/KTCOBOLGenerator.h"
 #include "schema/KTXMLSchemaDoc.h"
-#include "schema/SchemaStore.h"
+#include "schema/SchemaSet.h"
 #include "support/Console.h"
 #include "support/Files.h"
 #include "support/Text.h"
@@ -32,10 +32,9 @@ int StopWithoutNames(const Settings& settings) {
 void WriteCopybook(CKTDOMParser& parser, const Settings& settings, const std::string& schemaPath,
                    const std::string& copybookName) {
     const std::unique_ptr<CKTXMLElement> root = parser.getXMLDocument();
-    // The tree says all that is needed from here on.
-    parser.ReleaseDocument();
-    CKTSchemaStore store;
-    CKTXMLSchemaDoc document(root.get(), nullptr, schemaPath, store);
+    CKTLoadedSchemaFiles files(parser);
+    CKTSchemaSet set(files);
+    CKTXMLSchemaDoc document(root.get(), nullptr, schemaPath, set);
     CKTCOBOLGenerator generator(&document);
     const bool prompt = settings.promptForOverwrite;
     if (FileExists(copybookName, prompt) && prompt) {
@@ -65,7 +64,7 @@ int RunSchemaToCobol(const Settings& settings) {
         return 1;
     }
     WriteLine(std::cout, {"No schema errors found, processing XML schema ", schemaName});
-    const std::string schemaPath = IsRelativePath(schemaName) ? FullPath(schemaName) : schemaName;
+    const std::string schemaPath = FullPath(schemaName);
     WriteCopybook(parser, settings, schemaPath, copybookName);
     RestoreStreams();
     return ExitStatus();

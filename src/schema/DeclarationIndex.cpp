@@ -1,3 +1,6 @@
+// Names to declarations, built once. The maps are filled in the order in which a search would look,
+// and the first entry of a name stays.
+
 #include "schema/DeclarationIndex.h"
 
 #include <set>
@@ -39,10 +42,21 @@ CKTDeclarationIndex::CKTDeclarationIndex(const CKTXMLSchemaDoc& main,
         }
     }
     AddAll(m_MainMaps, main);
+    ListMaps ofMainNamespace;
     ForEachDeclaration(main, [&](std::size_t list, std::string_view name, CKTXMLElement* e) {
         const std::string_view uri = NamespaceOf(e, defaultNamespace);
         m_NamespaceMaps[std::string(uri)].at(list).try_emplace(name, e);
+        if (uri == main.getTargetNamespace()) {
+            ofMainNamespace.at(list).try_emplace(name, e);
+        }
+        if (uri.empty()) {
+            m_UnqualifiedMaps.at(list).try_emplace(name, e);
+        }
     });
+    for (std::size_t list = 0; list < m_MainMaps.size(); ++list) {
+        m_UnqualifiedMaps[list].insert(ofMainNamespace[list].begin(), ofMainNamespace[list].end());
+        m_UnqualifiedMaps[list].insert(m_MainMaps[list].begin(), m_MainMaps[list].end());
+    }
 }
 
 void CKTDeclarationIndex::AddAll(ListMaps& maps, const CKTXMLSchemaDoc& doc) {
@@ -51,21 +65,21 @@ void CKTDeclarationIndex::AddAll(ListMaps& maps, const CKTXMLSchemaDoc& doc) {
     });
 }
 
+CKTXMLElement* CKTDeclarationIndex::FindIn(const NameMap& names, std::string_view name) {
+    const auto found = names.find(name);
+    return found == names.end() ? nullptr : found->second;
+}
+
 CKTXMLElement* CKTDeclarationIndex::Find(std::string_view uri, std::string_view name,
                                          DeclarationList list) const {
     const auto place = static_cast<std::size_t>(list);
-    if (!uri.empty()) {
-        const auto maps = m_NamespaceMaps.find(std::string(uri));
-        if (maps != m_NamespaceMaps.end()) {
-            const auto found = maps->second.at(place).find(name);
-            if (found != maps->second.at(place).end()) {
-                return found->second;
-            }
-        }
-        if (uri != m_Main.getTargetNamespace()) {
-            return nullptr;
-        }
+    if (uri.empty()) {
+        return FindIn(m_UnqualifiedMaps.at(place), name);
     }
-    const auto found = m_MainMaps.at(place).find(name);
-    return found == m_MainMaps.at(place).end() ? nullptr : found->second;
+    const auto maps = m_NamespaceMaps.find(std::string(uri));
+    CKTXMLElement* found =
+        maps == m_NamespaceMaps.end() ? nullptr : FindIn(maps->second.at(place), name);
+    return found == nullptr && uri == m_Main.getTargetNamespace()
+               ? FindIn(m_MainMaps.at(place), name)
+               : found;
 }

@@ -14,8 +14,8 @@ bool IsCandidate(const CKTXMLElement* e) {
            (!findAttrByName(e, "abstract", &abstract) || abstract != "true");
 }
 
-void CollectCandidates(const CKTXMLElement* schema, std::vector<CKTXMLElement*>& found) {
-    for (CKTXMLElement* e = schema->getFirstChildElem(); e != nullptr; e = e->getNextSibling()) {
+void CollectCandidates(const CKTXMLSchemaDoc& doc, std::vector<CKTXMLElement*>& found) {
+    for (CKTXMLElement* e : doc.OwnDeclarations()) {
         if (IsCandidate(e)) {
             found.push_back(e);
         }
@@ -31,12 +31,12 @@ CKTXMLElement* CKTCOBOLGenerator::getSchemaHeadElement(std::vector<CKTXMLElement
     CKTXMLElement* schema = m_pDocument->getSchemaElement();
     std::vector<CKTXMLElement*> candidates;
     std::unordered_set<std::string_view> referenced;
-    CollectCandidates(schema, candidates);
+    CollectCandidates(*m_pDocument, candidates);
     CollectReferencedNames(schema, referenced);
     const bool fromImports = candidates.empty();
     for (const CKTXMLSchemaDoc* doc : ImportedDocuments()) {
         if (fromImports) {
-            CollectCandidates(doc->getSchemaElement(), candidates);
+            CollectCandidates(*doc, candidates);
         }
         CollectReferencedNames(doc->getSchemaElement(), referenced);
     }

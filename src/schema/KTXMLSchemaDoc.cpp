@@ -1,37 +1,14 @@
+// A schema document: the lists of its declarations, and the files that it names. Included files are
+// read depth first, so that what an inner file declares comes before what the outer one does.
+
 #include "schema/KTXMLSchemaDoc.h"
 
 #include <array>
-#include <filesystem>
 #include <optional>
 #include <utility>
 
-#include "schema/SchemaStore.h"
+#include "schema/SchemaSet.h"
 #include "xml/Paths.h"
-
-/// The declarations that move from included schemas into the main document, in order, with an index
-/// by name. A declaration that a redefinition replaced leaves an empty place.
-struct CKTXMLSchemaDoc::Carried {
-    void Add(std::unique_ptr<CKTXMLElement> declaration) {
-        std::string name;
-        if (findAttrByName(declaration.get(), "name", &name) && !name.empty()) {
-            places[name].push_back(declarations.size());
-        }
-        declarations.push_back(std::move(declaration));
-    }
-
-    std::unique_ptr<CKTXMLElement> TakeFirst(const std::string& name) {
-        const auto found = places.find(name);
-        if (found == places.end() || found->second.empty()) {
-            return nullptr;
-        }
-        const std::size_t place = found->second.front();
-        found->second.pop_front();
-        return std::move(declarations[place]);
-    }
-
-    std::vector<std::unique_ptr<CKTXMLElement>> declarations;
-    std::unordered_map<std::string, std::deque<std::size_t>> places;
-};
 
 namespace {
 
@@ -49,21 +26,21 @@ bool IsCarriedKind(const CKTXMLElement& e) {
     }
 }
 
-/// Gives an included schema without a namespace that of the one that includes it. Within the main
-/// schema it needs none, because the main namespace is where every look-up ends.
-void AdoptNamespace(CKTXMLElement* root, const CKTXMLElement& including) {
+/// Gives a schema without a namespace of its own that of the one that includes it. Says whether it
+/// has none of its own.
+bool AdoptNamespace(CKTXMLElement* root, const std::string& uri) {
     CKTXMLElement* schema = root->getFirstChildElem();
-    const CKTXMLAttribute* uri = including.getAttribute("targetNamespace");
-    if (schema == nullptr || uri == nullptr || schema->getAttribute("targetNamespace") != nullptr) {
-        return;
+    if (schema == nullptr || schema->getAttribute("targetNamespace") != nullptr) {
+        return false;
     }
     for (const char* name : {"targetNamespace", "xmlns"}) {
-        if (schema->getAttribute(name) == nullptr) {
-            auto attribute = std::make_unique<CKTXMLAttribute>(name, uri->getValue());
+        if (!uri.empty() && schema->getAttribute(name) == nullptr) {
+            auto attribute = std::make_unique<CKTXMLAttribute>(name, uri);
             attribute->setParent(schema);
             schema->addAttribute(std::move(attribute));
         }
     }
+    return true;
 }
 
 template <typename Entry>
@@ -74,18 +51,24 @@ void Append(std::vector<Entry>& list, const std::vector<Entry>& more) {
 }  // namespace
 
 CKTXMLSchemaDoc::CKTXMLSchemaDoc(CKTXMLElement* root, CKTXMLSchemaDoc* target, std::string location,
-                                 CKTSchemaStore& store)
-    : m_Store(store), m_sSchemaLocation(std::move(location)), m_sBaseFile(m_sSchemaLocation) {
+                                 CKTSchemaSet& set)
+    : CKTXMLSchemaDoc(set, target == nullptr ? this : target, std::move(location)) {
     if (root == nullptr) {
         return;
     }
-    std::optional<CKTSchemaStore::CKTLoadGuard> loading;
+    std::optional<CKTSchemaSet::CKTLoadGuard> loading;
     if (target == nullptr) {
-        m_Store.RegisterImport(m_sBaseFile, this);
-        loading.emplace(m_Store, m_sBaseFile);
+        m_Set.RegisterImport(m_sBaseFile, this);
+        loading.emplace(m_Set, m_sBaseFile);
     }
     PreProcessSchema(root, target == nullptr ? this : target);
 }
+
+CKTXMLSchemaDoc::CKTXMLSchemaDoc(CKTSchemaSet& set, CKTXMLSchemaDoc* owner, std::string location)
+    : m_Set(set),
+      m_pOwner(owner),
+      m_sSchemaLocation(std::move(location)),
+      m_sBaseFile(m_sSchemaLocation) {}
 
 CKTXMLSchemaDoc* CKTXMLSchemaDoc::PreProcessSchema(CKTXMLElement* root, CKTXMLSchemaDoc* target) {
     if (root == nullptr) {
@@ -96,36 +79,55 @@ CKTXMLSchemaDoc* CKTXMLSchemaDoc::PreProcessSchema(CKTXMLElement* root, CKTXMLSc
     if (parts.empty()) {
         return target;
     }
-    Carried carried;
+    CKTCarriedDeclarations carried;
     for (CKTXMLElement* part : parts) {
-        switch (getElementType(part)) {
-            case SchemaKind::Schema:
-                if (m_pSchemaElement == nullptr) {
-                    m_pSchemaElement = part;
-                    m_SchemaElementList.push_back(part);
-                }
-                break;
-            case SchemaKind::Import:
-                ProcessImport(part, target);
-                break;
-            case SchemaKind::Include:
-                ProcessInclude(part, target, carried);
-                break;
-            default:
-                ProcessInclude(part, target, carried);
-                ProcessRedefine(part, target, carried);
-                break;
-        }
+        ProcessPart(part, target, carried);
     }
-    if (target->m_pSchemaElement != nullptr) {
-        for (std::unique_ptr<CKTXMLElement>& declaration : carried.declarations) {
-            if (declaration != nullptr) {
-                target->m_pSchemaElement->addChildElement(std::move(declaration));
-            }
-        }
+    target->m_Brought.Append(carried.TakeAll(), m_pOwner);
+    if (target == this) {
+        TakeBroughtDeclarations();
     }
     InitializeElementLists();
     return target;
+}
+
+void CKTXMLSchemaDoc::ProcessPart(CKTXMLElement* part, CKTXMLSchemaDoc* target,
+                                  CKTCarriedDeclarations& carried) {
+    const std::size_t before = target->m_Brought.size();
+    switch (getElementType(part)) {
+        case SchemaKind::Schema:
+            if (m_pSchemaElement == nullptr) {
+                m_pSchemaElement = part;
+                m_SchemaElementList.push_back(part);
+            }
+            break;
+        case SchemaKind::Import:
+            ProcessImport(part, target);
+            break;
+        case SchemaKind::Include:
+            ProcessInclude(part, target, carried);
+            break;
+        default:
+            ProcessInclude(part, target, carried);
+            ProcessRedefine(part, target, carried, before);
+            break;
+    }
+}
+
+/// Ends the loading of the main document: what the included files of the set have brought joins its
+/// tree.
+void CKTXMLSchemaDoc::TakeBroughtDeclarations() {
+    for (CKTBroughtDeclarations::Entry& entry : m_Brought.TakeAll()) {
+        if (entry.owner != this) {
+            entry.owner->m_IncludedList.push_back(entry.declaration.get());
+            m_ForeignDeclarations.insert(entry.declaration.get());
+        }
+        if (m_pSchemaElement != nullptr) {
+            m_pSchemaElement->addChildElement(std::move(entry.declaration));
+        } else {
+            m_Set.Keep(std::move(entry.declaration));
+        }
+    }
 }
 
 void CKTXMLSchemaDoc::ProcessImport(const CKTXMLElement* import, CKTXMLSchemaDoc* target) {
@@ -140,7 +142,7 @@ void CKTXMLSchemaDoc::ProcessImport(const CKTXMLElement* import, CKTXMLSchemaDoc
         return;
     }
     target->m_NamespaceSchemaPairs.push_back(
-        m_Store.Keep(std::make_unique<CKTXMLNamespaceSchemaPair>(uri, doc)));
+        m_Set.Keep(std::make_unique<CKTXMLNamespaceSchemaPair>(uri, doc)));
 }
 
 /// A location counts from the working directory; one that is written outside the main file and
@@ -151,30 +153,29 @@ std::string CKTXMLSchemaDoc::ImportPath(const std::string& location,
     if (inMainFile || location.find("://") != std::string::npos || !IsRelativePath(location)) {
         return location;
     }
-    std::error_code error;
-    return std::filesystem::exists(location, error) ? location : WeavePaths(m_sBaseFile, location);
+    return m_Set.Exists(location) ? location : WeavePaths(m_sBaseFile, location);
 }
 
 CKTXMLSchemaDoc* CKTXMLSchemaDoc::LoadImport(const std::string& fileName, CKTXMLSchemaDoc* target) {
     CKTXMLSchemaDoc* known = nullptr;
-    if (m_Store.FindImport(fileName, known)) {
+    if (m_Set.FindImport(fileName, known)) {
         return known;
     }
-    m_Store.RegisterImport(fileName, nullptr);
-    CKTXMLElement* root = m_Store.Load(fileName);
+    m_Set.RegisterImport(fileName, nullptr);
+    CKTXMLElement* root = m_Set.Load(fileName);
     if (root == nullptr) {
         return nullptr;
     }
-    CKTXMLSchemaDoc* doc = m_Store.Keep(std::make_unique<CKTXMLSchemaDoc>(m_Store));
+    CKTXMLSchemaDoc* doc = m_Set.Keep(std::make_unique<CKTXMLSchemaDoc>(m_Set));
     doc->m_sBaseFile = FullPath(fileName);
-    m_Store.RegisterImport(fileName, doc);
-    const CKTSchemaStore::CKTLoadGuard loading(m_Store, fileName);
+    m_Set.RegisterImport(fileName, doc);
+    const CKTSchemaSet::CKTLoadGuard loading(m_Set, fileName);
     doc->PreProcessSchema(root, target);
     return doc;
 }
 
 void CKTXMLSchemaDoc::ProcessInclude(const CKTXMLElement* include, CKTXMLSchemaDoc* target,
-                                     Carried& carried) {
+                                     CKTCarriedDeclarations& carried) {
     std::string location;
     if (!findAttrByName(include, "schemaLocation", &location)) {
         return;
@@ -187,17 +188,19 @@ void CKTXMLSchemaDoc::ProcessInclude(const CKTXMLElement* include, CKTXMLSchemaD
         }
         base = fileName;
     }
-    if (!m_Store.BeginInclude(fileName)) {
+    const std::string uri = OwnNamespace();
+    if (!m_Set.BeginInclude(fileName, uri)) {
         return;
     }
-    CKTXMLElement* root = m_Store.Load(fileName);
+    CKTXMLElement* root = m_Set.Load(fileName);
     if (root == nullptr) {
         return;
     }
-    if (this != target && m_pSchemaElement != nullptr) {
-        AdoptNamespace(root, *m_pSchemaElement);
+    if (AdoptNamespace(root, uri)) {
+        m_Set.NoteAdoption(fileName);
     }
-    const CKTXMLSchemaDoc included(root, target, base, m_Store);
+    CKTXMLSchemaDoc included(m_Set, m_pOwner, base);
+    included.PreProcessSchema(root, target);
     included.MergeInto(target);
     if (included.m_pSchemaElement == nullptr) {
         return;
@@ -207,23 +210,45 @@ void CKTXMLSchemaDoc::ProcessInclude(const CKTXMLElement* include, CKTXMLSchemaD
     }
 }
 
+/// The namespace that this document's schema element writes or has adopted.
+std::string CKTXMLSchemaDoc::OwnNamespace() const {
+    std::string uri;
+    if (m_pSchemaElement != nullptr) {
+        findAttrByName(m_pSchemaElement, "targetNamespace", &uri);
+    }
+    return uri;
+}
+
+/// Puts each redefinition in the place of what it redefines: a declaration of the redefined file,
+/// or one that its own includes have brought since the place `from`.
 void CKTXMLSchemaDoc::ProcessRedefine(CKTXMLElement* redefine, CKTXMLSchemaDoc* target,
-                                      Carried& carried) {
+                                      CKTCarriedDeclarations& carried, std::size_t from) {
+    std::vector<std::optional<std::size_t>> places;
     auto redefinitions = redefine->takeChildElements([&](const CKTXMLElement& child) {
         std::string name;
         if (!findAttrByName(&child, "name", &name) || name.empty()) {
             return false;
         }
         std::unique_ptr<CKTXMLElement> replaced = carried.TakeFirst(name);
+        std::optional<std::size_t> place;
         if (replaced == nullptr) {
-            return false;
+            place = target->m_Brought.Find(getElementType(&child), name, from);
+            if (!place || target->m_Brought.At(*place).declaration == nullptr) {
+                return false;
+            }
+            replaced = std::move(target->m_Brought.At(*place).declaration);
         }
+        places.push_back(place);
         target->m_RedefinedList.push_back(replaced.get());
-        target->m_Replaced[&child] = m_Store.Keep(std::move(replaced));
+        target->m_Replaced[&child] = m_Set.Keep(std::move(replaced));
         return true;
     });
-    for (auto& redefinition : redefinitions) {
-        carried.Add(std::move(redefinition));
+    for (std::size_t i = 0; i < redefinitions.size(); ++i) {
+        if (places[i]) {
+            target->m_Brought.At(*places[i]).declaration = std::move(redefinitions[i]);
+        } else {
+            carried.Add(std::move(redefinitions[i]));
+        }
     }
 }
 
@@ -282,6 +307,20 @@ const CKTXMLSchemaDoc::ElementList& CKTXMLSchemaDoc::getList(DeclarationList lis
         default:
             return m_RedefinedList;
     }
+}
+
+CKTXMLSchemaDoc::ElementList CKTXMLSchemaDoc::OwnDeclarations() const {
+    ElementList own;
+    if (m_pSchemaElement != nullptr) {
+        for (CKTXMLElement* e = m_pSchemaElement->getFirstChildElem(); e != nullptr;
+             e = e->getNextSibling()) {
+            if (!m_ForeignDeclarations.contains(e)) {
+                own.push_back(e);
+            }
+        }
+    }
+    Append(own, m_IncludedList);
+    return own;
 }
 
 CKTXMLElement* CKTXMLSchemaDoc::getReplaced(const CKTXMLElement* redefinition) const {

@@ -1,18 +1,19 @@
 #ifndef DORVEX_SCHEMA_KTXMLSCHEMADOC_H
 #define DORVEX_SCHEMA_KTXMLSCHEMADOC_H
 
-#include <deque>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
+#include "schema/BroughtDeclarations.h"
 #include "schema/KTXMLNamespaceSchemaPair.h"
 #include "schema/SchemaVocabulary.h"
 #include "xml/KTXMLElement.h"
 
-class CKTSchemaStore;
+class CKTSchemaSet;
 
 /// The lists of a schema document in which a declaration can be looked up, and the replaced
 /// declaration of the redefinition that encloses the one who asks.
@@ -31,19 +32,19 @@ enum DeclarationList {
 /// One schema, sorted into lists of its global declarations. Building it pulls in the schemas that
 /// it names: declarations of included and redefined ones move into the tree of the main document,
 /// imported ones become documents of their own, reachable by namespace from the main document. What
-/// loading creates belongs to the run's store, the main tree to the run; this object owns its lists
+/// loading creates belongs to the run's set, the main tree to the run; this object owns its lists
 /// only.
 class CKTXMLSchemaDoc {
 public:
     using ElementList = std::vector<CKTXMLElement*>;
 
-    explicit CKTXMLSchemaDoc(CKTSchemaStore& store) : m_Store(store) {}
+    explicit CKTXMLSchemaDoc(CKTSchemaSet& set) : CKTXMLSchemaDoc(set, this, {}) {}
 
     /// Reads the tree below `root` (may be null), which stands for the document of the file
     /// `location`. `target` is the main document that included declarations go to; null makes this
     /// one the main document.
     CKTXMLSchemaDoc(CKTXMLElement* root, CKTXMLSchemaDoc* target, std::string location,
-                    CKTSchemaStore& store);
+                    CKTSchemaSet& set);
 
     /// Finds the `schema` element below `root` (null: nothing is done), loads what the schema
     /// includes, redefines and imports, and builds the lists. Reports nothing of its own: what
@@ -60,6 +61,10 @@ public:
     /// One of the lists of global declarations, in document order; `list` is COMPLEX_TYPES to
     /// REDEFINED.
     [[nodiscard]] const ElementList& getList(DeclarationList list) const;
+
+    /// The global declarations that count as this document's: its own, then those that its includes
+    /// brought, inner files first. What an imported document includes counts as that one's.
+    [[nodiscard]] ElementList OwnDeclarations() const;
 
     /// The declaration that `redefinition` replaced; null for any other declaration. Replaced
     /// declarations are known to the main document.
@@ -79,17 +84,23 @@ public:
     [[nodiscard]] const std::string& getSchemaLocation() const { return m_sSchemaLocation; }
 
 private:
-    struct Carried;
+    CKTXMLSchemaDoc(CKTSchemaSet& set, CKTXMLSchemaDoc* owner, std::string location);
 
+    void ProcessPart(CKTXMLElement* part, CKTXMLSchemaDoc* target, CKTCarriedDeclarations& carried);
     void ProcessImport(const CKTXMLElement* import, CKTXMLSchemaDoc* target);
     [[nodiscard]] std::string ImportPath(const std::string& location,
                                          const CKTXMLSchemaDoc* target) const;
     CKTXMLSchemaDoc* LoadImport(const std::string& fileName, CKTXMLSchemaDoc* target);
-    void ProcessInclude(const CKTXMLElement* include, CKTXMLSchemaDoc* target, Carried& carried);
-    void ProcessRedefine(CKTXMLElement* redefine, CKTXMLSchemaDoc* target, Carried& carried);
+    void ProcessInclude(const CKTXMLElement* include, CKTXMLSchemaDoc* target,
+                        CKTCarriedDeclarations& carried);
+    void ProcessRedefine(CKTXMLElement* redefine, CKTXMLSchemaDoc* target,
+                         CKTCarriedDeclarations& carried, std::size_t from);
+    [[nodiscard]] std::string OwnNamespace() const;
+    void TakeBroughtDeclarations();
     void MergeInto(CKTXMLSchemaDoc* target) const;
 
-    CKTSchemaStore& m_Store;
+    CKTSchemaSet& m_Set;
+    CKTXMLSchemaDoc* m_pOwner;  ///< the main or imported document that this one is included in
     ElementList m_ComplexTypeList;
     ElementList m_SimpleTypeList;
     ElementList m_ElementList;
@@ -107,6 +118,9 @@ private:
     std::string
         m_sBaseFile;  ///< what relative locations count from; set for imported documents too
     std::unordered_map<const CKTXMLElement*, CKTXMLElement*> m_Replaced;
+    CKTBroughtDeclarations m_Brought;  ///< while the main document is loaded
+    ElementList m_IncludedList;        ///< brought into the main document by includes of this one
+    std::unordered_set<const CKTXMLElement*> m_ForeignDeclarations;  ///< of imported documents
 };
 
 #endif

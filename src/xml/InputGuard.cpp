@@ -3,15 +3,13 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <unordered_set>
 
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/framework/XMLPScanToken.hpp>
+#include <xercesc/parsers/SAX2XMLReaderImpl.hpp>
 #include <xercesc/sax/Locator.hpp>
 #include <xercesc/sax2/Attributes.hpp>
 #include <xercesc/sax2/DefaultHandler.hpp>
-#include <xercesc/sax2/SAX2XMLReader.hpp>
-#include <xercesc/sax2/XMLReaderFactory.hpp>
 #include <xercesc/util/BinInputStream.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/SecurityManager.hpp>
@@ -19,31 +17,30 @@
 #include <xercesc/util/XMLString.hpp>
 #include <xercesc/util/XMLUni.hpp>
 
+#include "support/Limits.h"
 #include "support/Text.h"
 #include "xml/InputSources.h"
 #include "xml/KTDOMErrorHandler.h"
+#include "xml/Paths.h"
 #include "xml/PatternSize.h"
 
 using xercesc::SAXParseException;
+using xercesc::XMLUni;
 
 namespace {
 
-constexpr int kMaxSchemaDepth = 20000;
-constexpr XMLSize_t kMaxEntityText = 20'000'000;
-constexpr std::uint64_t kMaxPatternParts = 5'000'000;
-
-/// Watches one reading pass: nesting, the text that comes from entities, the patterns of a schema,
-/// and a fatal error in a schema that may declare entities.
+/// Watches one reading pass of a schema: nesting, the text that comes from entities, the patterns,
+/// and a fatal error behind a document type.
 class CKTGuardHandler : public xercesc::DefaultHandler {
 public:
-    explicit CKTGuardHandler(bool schema) : m_bSchema(schema) {}
-
     void setDocumentLocator(const xercesc::Locator* locator) override { m_pLocator = locator; }
-    void startDTD(const XMLCh*, const XMLCh*, const XMLCh*) override { m_bDocumentType = true; }
+    void startDTD(const XMLCh*, const XMLCh*, const XMLCh* systemId) override {
+        m_bDocumentType = true;
+        m_sExternalSubset = systemId == nullptr ? u"" : systemId;
+    }
     void startElement(const XMLCh*, const XMLCh*, const XMLCh* name,
                       const xercesc::Attributes& attributes) override {
-        m_bStarted = true;
-        if (++m_nDepth == kMaxSchemaDepth + 1 && m_bSchema) {
+        if (++m_nDepth == kMaxSchemaDepth + 1) {
             Refuse("elements are nested deeper than " + std::to_string(kMaxSchemaDepth) +
                    " levels");
         }
@@ -52,9 +49,7 @@ public:
                 CountText(xercesc::XMLString::stringLen(attributes.getValue(i)));
             }
         }
-        if (m_bSchema) {
-            CountPattern(name, attributes);
-        }
+        CountPattern(name, attributes);
     }
     void endElement(const XMLCh*, const XMLCh*, const XMLCh*) override { --m_nDepth; }
     void startEntity(const XMLCh*) override { ++m_nOpenEntities; }
@@ -65,24 +60,21 @@ public:
         }
     }
     void fatalError(const SAXParseException& e) override {
-        if (m_bDocumentType && m_bSchema) {
+        if (m_bDocumentType) {
             m_Refusal.emplace(e);
         }
     }
 
     [[nodiscard]] const std::optional<SAXParseException>& refusal() const { return m_Refusal; }
 
-    /// Nothing is left to be found: the input is refused, or a document that declares no entities.
-    [[nodiscard]] bool isDone() const {
-        return m_Refusal || (m_bStarted && !m_bSchema && !m_bDocumentType);
-    }
+    /// The name of the external subset as written; empty without one.
+    [[nodiscard]] const std::u16string& externalSubset() const { return m_sExternalSubset; }
 
 private:
     void CountText(XMLSize_t length) {
         m_nEntityText += length;
         if (m_nEntityText > kMaxEntityText) {
-            Refuse("entities expand to more than " + std::to_string(kMaxEntityText) +
-                   " characters");
+            Refuse(kTooMuchEntityText);
         }
     }
     void CountPattern(std::u16string_view name, const xercesc::Attributes& attributes) {
@@ -103,7 +95,6 @@ private:
         m_Refusal.emplace(WidenText(reason).c_str(), *m_pLocator);
     }
 
-    bool m_bSchema;
     const xercesc::Locator* m_pLocator = nullptr;
     std::optional<SAXParseException> m_Refusal;
     int m_nDepth = 0;
@@ -111,58 +102,68 @@ private:
     XMLSize_t m_nEntityText = 0;
     std::uint64_t m_nPatternParts = 0;
     bool m_bDocumentType = false;
-    bool m_bStarted = false;
+    std::u16string m_sExternalSubset;
 };
 
-void ReadThrough(const xercesc::InputSource& source, CKTGuardHandler& handler) {
-    const std::unique_ptr<xercesc::SAX2XMLReader> reader(
-        xercesc::XMLReaderFactory::createXMLReader());
+void ReadThrough(const xercesc::InputSource& source, xercesc::SAX2XMLReaderImpl& reader,
+                 CKTGuardHandler& handler) {
     xercesc::SecurityManager limits;
     limits.setEntityExpansionLimit(kMaxEntityExpansions);
-    reader->setProperty(xercesc::XMLUni::fgXercesSecurityManager, &limits);
-    reader->setFeature(xercesc::XMLUni::fgSAX2CoreNameSpaces, false);
-    reader->setFeature(xercesc::XMLUni::fgSAX2CoreValidation, false);
-    reader->setFeature(xercesc::XMLUni::fgXercesSchema, false);
-    reader->setContentHandler(&handler);
-    reader->setErrorHandler(&handler);
-    reader->setLexicalHandler(&handler);
+    reader.setProperty(XMLUni::fgXercesSecurityManager, &limits);
+    reader.setContentHandler(&handler);
+    reader.setErrorHandler(&handler);
+    reader.setLexicalHandler(&handler);
     xercesc::XMLPScanToken token;
-    bool more = reader->parseFirst(source, token);
-    while (more && !handler.isDone()) {
-        more = reader->parseNext(token);
+    bool more = reader.parseFirst(source, token);
+    while (more && !handler.refusal()) {
+        more = reader.parseNext(token);
+    }
+    if (more) {
+        reader.parseReset(token);
     }
 }
 
-/// The schema files that were read through in this process and found acceptable.
-std::unordered_set<std::u16string>& AcceptedFiles() {
-    static std::unordered_set<std::u16string> files;
-    return files;
+std::unique_ptr<xercesc::SAX2XMLReaderImpl> MakePlainReader(CKTInputGuard& guard) {
+    std::unique_ptr<xercesc::SAX2XMLReaderImpl> reader =
+        std::make_unique<xercesc::SAX2XMLReaderImpl>();
+    for (const XMLCh* feature : {XMLUni::fgSAX2CoreNameSpaces, XMLUni::fgSAX2CoreValidation,
+                                 XMLUni::fgXercesSchema, XMLUni::fgXercesLoadExternalDTD}) {
+        reader->setFeature(feature, false);
+    }
+    reader->setXMLEntityResolver(&guard);
+    return reader;
+}
+
+bool IsSchema(xercesc::XMLResourceIdentifier::ResourceIdentifierType type) {
+    using Resource = xercesc::XMLResourceIdentifier;
+    return type == Resource::SchemaGrammar || type == Resource::SchemaImport ||
+           type == Resource::SchemaInclude || type == Resource::SchemaRedefine;
+}
+
+std::unique_ptr<xercesc::InputSource> NothingInsteadOf(const XMLCh* systemId) {
+    static constexpr XMLByte kNothing = ' ';
+    return std::make_unique<xercesc::MemBufInputSource>(&kNothing, 1, systemId);
 }
 
 }  // namespace
 
-bool CKTInputGuard::IsAcceptableSchema(const xercesc::InputSource& source) {
+CKTInputGuard::CKTInputGuard(CKTDOMErrorHandler& handler) : m_Handler(handler) {}
+CKTInputGuard::~CKTInputGuard() = default;
+
+bool CKTInputGuard::AdmitSchema(const xercesc::InputSource& source) {
     const std::u16string name = source.getSystemId();
-    if (AcceptedFiles().contains(name)) {
+    if (m_Admitted.contains(name)) {
         return true;
     }
-    const bool acceptable = IsAcceptable(source, true);
-    if (acceptable) {
-        AcceptedFiles().insert(name);
-    }
-    return acceptable;
-}
-
-bool CKTInputGuard::IsAcceptableDocument(const xercesc::InputSource& source) {
-    return IsAcceptable(source, false);
-}
-
-bool CKTInputGuard::IsAcceptable(const xercesc::InputSource& source, bool schema) {
-    CKTGuardHandler handler(schema);
+    m_Reached.insert(InputIdentity(source));
+    CKTGuardHandler handler;
     try {
         const std::unique_ptr<xercesc::BinInputStream> probe(source.makeStream());
         if (probe != nullptr) {
-            ReadThrough(source, handler);
+            if (m_pReader == nullptr) {
+                m_pReader = MakePlainReader(*this);
+            }
+            ReadThrough(source, *m_pReader, handler);
         }
     } catch (const xercesc::XMLException&) {
         return true;  // The library meets the same failure and reports it in its own words.
@@ -174,25 +175,41 @@ bool CKTInputGuard::IsAcceptable(const xercesc::InputSource& source, bool schema
         m_Handler.setMuted(true);
         return false;
     }
+    if (!handler.externalSubset().empty()) {
+        m_ExternalSubsets.emplace(name, handler.externalSubset());
+    }
+    m_Admitted.insert(name);
     return true;
 }
 
+bool CKTInputGuard::HasReached(const std::string& fileName) const {
+    return m_Reached.contains(FileIdentity(fileName));
+}
+
+bool CKTInputGuard::IsExternalSubset(const XMLCh* file, const XMLCh* name) const {
+    if (file == nullptr) {
+        return false;
+    }
+    const auto found = m_ExternalSubsets.find(file);
+    return found != m_ExternalSubsets.end() && found->second == name;
+}
+
 xercesc::InputSource* CKTInputGuard::resolveEntity(xercesc::XMLResourceIdentifier* resource) {
-    using Resource = xercesc::XMLResourceIdentifier;
-    const Resource::ResourceIdentifierType type = resource->getResourceIdentifierType();
-    const bool schema = type == Resource::SchemaGrammar || type == Resource::SchemaImport ||
-                        type == Resource::SchemaInclude || type == Resource::SchemaRedefine;
-    if (!schema || resource->getSystemId() == nullptr) {
+    const XMLCh* name = resource->getSystemId();
+    const XMLCh* file = resource->getBaseURI();
+    if (name == nullptr) {
         return nullptr;
     }
     try {
-        if (IsAcceptableSchema(*MakeInputSource(resource->getBaseURI(), resource->getSystemId()))) {
-            return nullptr;
+        if (IsExternalSubset(file, name)) {
+            return NothingInsteadOf(name).release();
         }
+        std::unique_ptr<xercesc::InputSource> source = MakeInputSource(file, name);
+        if (IsSchema(resource->getResourceIdentifierType()) && !AdmitSchema(*source)) {
+            source = NothingInsteadOf(name);
+        }
+        return source.release();
     } catch (const xercesc::XMLException&) {
-        return nullptr;
+        return nullptr;  // The library makes its own source and reports the failure.
     }
-    static constexpr XMLByte kNothing = ' ';
-    return std::make_unique<xercesc::MemBufInputSource>(&kNothing, 1, resource->getSystemId())
-        .release();
 }

@@ -1,40 +1,52 @@
 #ifndef DORVEX_XML_INPUTGUARD_H
 #define DORVEX_XML_INPUTGUARD_H
 
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+
 #include <xercesc/sax/InputSource.hpp>
 #include <xercesc/util/XMLEntityResolver.hpp>
 
 class CKTDOMErrorHandler;
 
-/// Reads inputs once before the library works on them, because the library bounds neither the
+XERCES_CPP_NAMESPACE_BEGIN
+class SAX2XMLReaderImpl;
+XERCES_CPP_NAMESPACE_END
+
+/// Reads each schema once before the library works on it, because the library bounds neither the
 /// nesting of a schema, which its grammar loader follows with its own stack, nor the size of its
-/// patterns, nor the text that entities expand to. As entity resolver it also sees every schema
-/// that the library reaches by include, import or redefine. What it refuses is reported once
-/// through the error handler, which is then muted for what follows from it.
+/// patterns, nor the text that its entities expand to. As entity resolver it sees every file that
+/// the library reaches and opens all of them. What it refuses is reported once through the error
+/// handler, which is then muted for what follows from it.
 class CKTInputGuard : public xercesc::XMLEntityResolver {
 public:
     /// `handler` reports refusals; borrowed, must outlive the guard.
-    explicit CKTInputGuard(CKTDOMErrorHandler& handler) : m_Handler(handler) {}
+    explicit CKTInputGuard(CKTDOMErrorHandler& handler);
+    ~CKTInputGuard() override;
 
-    /// Lets the library open an acceptable schema, and gives it an empty one for any other.
+    /// Opens what the library asks for. A schema that is refused, and the external subset of a
+    /// schema's document type, which only describes schemas, are empty instead.
     xercesc::InputSource* resolveEntity(xercesc::XMLResourceIdentifier* resource) override;
 
-    /// Says whether the schema can be loaded safely. False after it was reported: nested too
-    /// deeply, its patterns or its entities too large, or not well-formed together with a document
-    /// type. A source that cannot be opened is left to the library's own report.
-    bool IsAcceptableSchema(const xercesc::InputSource& source);
+    /// Reads a schema through and says whether it can be loaded safely. False after it was reported
+    /// and the handler muted: nested too deeply, its patterns or its entities too large, or not
+    /// well-formed together with a document type. A source that cannot be opened passes; the
+    /// library reports it in its own words.
+    bool AdmitSchema(const xercesc::InputSource& source);
 
-    /// Says whether a document can be parsed safely; only one with a document type is read to its
-    /// end. False after its entities were reported as too large.
-    bool IsAcceptableDocument(const xercesc::InputSource& source);
+    /// Says whether the library was given the schema file `fileName`, whatever name led to it.
+    [[nodiscard]] bool HasReached(const std::string& fileName) const;
 
 private:
-    bool IsAcceptable(const xercesc::InputSource& source, bool schema);
+    bool IsExternalSubset(const XMLCh* file, const XMLCh* name) const;
 
     CKTDOMErrorHandler& m_Handler;
+    std::unique_ptr<xercesc::SAX2XMLReaderImpl> m_pReader;
+    std::unordered_set<std::u16string> m_Admitted;
+    std::unordered_set<std::string> m_Reached;
+    std::unordered_map<std::u16string, std::u16string> m_ExternalSubsets;
 };
-
-/// The number of entity expansions after which a document is refused.
-inline constexpr XMLSize_t kMaxEntityExpansions = 50000;
 
 #endif

@@ -2,15 +2,36 @@
 #define DORVEX_XML_INPUTSOURCES_H
 
 #include <memory>
+#include <string>
 
 #include <xercesc/sax/InputSource.hpp>
 
-/// Makes the source that the parser library would make of `name`, which counts from the file `base`
-/// (null: from the working directory). Throws the library's exceptions.
+/// A file of this machine, opened by exactly the bytes of its name. Its system identifier is the
+/// one that the parser library would give it. Opening it is noted among the files that were read.
+class CKTFileSource : public xercesc::InputSource {
+public:
+    /// `systemId` is the file's full name in the library's form, `path` the name to open it by.
+    CKTFileSource(const std::u16string& systemId, std::string path);
+
+    /// The stream; null when the file cannot be opened.
+    [[nodiscard]] xercesc::BinInputStream* makeStream() const override;
+
+    [[nodiscard]] const std::string& path() const { return m_sPath; }
+
+private:
+    std::string m_sPath;
+};
+
+/// Makes the source that `name` stands for where the file `base` writes it (null: the working
+/// directory, for a name that the user gave): a file, or a location elsewhere. Throws the library's
+/// exceptions.
 std::unique_ptr<xercesc::InputSource> MakeInputSource(const XMLCh* base, const XMLCh* name);
 
 /// Says whether the source is a file that exists but cannot be read as one, and more than once: a
 /// directory, a pipe, a device.
 bool IsUnreadableFile(const xercesc::InputSource& source);
+
+/// The FileIdentity of a source.
+std::string InputIdentity(const xercesc::InputSource& source);
 
 #endif

@@ -6,8 +6,17 @@
 #include <xercesc/sax/ErrorHandler.hpp>
 #include <xercesc/sax/SAXParseException.hpp>
 
+/// The diagnostics of a pass that are not printed yet: their lines, and what they count.
+struct CKTHeldDiagnostics {
+    std::string lines;
+    int errors = 0;
+    int warnings = 0;
+    bool isComplete = true;  ///< false when there was more than is kept
+};
+
 /// Prints each diagnostic of the parser as one line on standard error and counts it in the
-/// process-wide counters. It never throws, so the parser library decides whether parsing goes on.
+/// process-wide counters. It never throws an error of its own, so the parser library decides
+/// whether parsing goes on.
 class CKTDOMErrorHandler : public xercesc::ErrorHandler {
 public:
     void warning(const xercesc::SAXParseException& e) override;
@@ -27,11 +36,20 @@ public:
     /// was.
     void setMuted(bool muted) { m_bMuted = muted; }
 
+    /// Sends diagnostics to `held` (borrowed) until it is set to null again. When there are too
+    /// many to keep, the reading pass is stopped.
+    void setHeld(CKTHeldDiagnostics* held) { m_pHeld = held; }
+
+    /// Prints and counts what was held.
+    static void Report(const CKTHeldDiagnostics& held);
+
 private:
-    void DisplayErrorMsg(const std::string& kind, const xercesc::SAXParseException& e) const;
+    void DisplayErrorMsg(const std::string& kind, const xercesc::SAXParseException& e,
+                         bool isWarning) const;
 
     bool m_bVerbose = false;
     bool m_bMuted = false;
+    CKTHeldDiagnostics* m_pHeld = nullptr;
 };
 
 #endif

@@ -1,22 +1,29 @@
+// The facade of the parser library. Everything of the library lives in one object behind it: the
+// reader that turns events into trees, the guard that opens the files, the error handler. Each way
+// of reading sets the reader up as a whole, so that nothing depends on what was read before.
+
 #include "xml/KTDOMParser.h"
 
 #include <iostream>
 #include <new>
-#include <vector>
 
 #include <xercesc/dom/DOMException.hpp>
-#include <xercesc/dom/DOMNamedNodeMap.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
-#include <xercesc/util/PlatformUtils.hpp>
+#include <xercesc/util/SecurityManager.hpp>
+#include <xercesc/util/XMLException.hpp>
 #include <xercesc/util/XMLUni.hpp>
 #include <xercesc/validators/common/Grammar.hpp>
 
 #include "support/Console.h"
+#include "support/Limits.h"
 #include "support/Text.h"
+#include "xml/InputGuard.h"
 #include "xml/InputSources.h"
-
-using xercesc::DOMNode;
-using xercesc::XercesDOMParser;
+#include "xml/KTDOMErrorHandler.h"
+#include "xml/LibraryValidator.h"
+#include "xml/Paths.h"
+#include "xml/Platform.h"
+#include "xml/TreeReader.h"
 
 namespace {
 
@@ -24,119 +31,150 @@ void ReportException(const char* prefix, const xercesc::XMLException& e) {
     WriteLine(std::cerr, {prefix, NarrowMessage(e.getMessage())});
 }
 
+void AnnounceSchema(const std::string& fileName) {
+    std::cout << "\n";
+    WriteLine(std::cout, {"Validating ", fileName, " for well-formedness."});
+    std::cout.flush();
+}
+
+/// How a file is read.
+struct Reading {
+    bool validates = false;
+    bool isSchema = false;
+};
+
 }  // namespace
 
-CKTDOMParser::CKTDOMParser() : CKTDOMParser(nullptr) {}
+/// What the facade holds of the library, which has to be up longer than any of it.
+class CKTDOMParser::CKTLibrary {
+    CKTPlatform m_Platform;
 
-CKTDOMParser::CKTDOMParser(std::unique_ptr<xercesc::XMLValidator> validator) {
-    InitializePlatform();
-    m_pDOMParser = std::make_unique<XercesDOMParser>(validator.release());
-    InitializeParser();
-}
-
-CKTDOMParser::~CKTDOMParser() {
-    m_pFormatter.reset();
-    m_pFormatTarget.reset();
-    m_pDOMParser.reset();
-    m_pInputGuard.reset();
-    m_pErrorHandler.reset();
-    try {
-        xercesc::XMLPlatformUtils::Terminate();
-    } catch (const xercesc::XMLException& e) {
-        ReportException("Error during Xerces-c termination. Exception message: ", e);
+public:
+    explicit CKTLibrary(CKTDOMParser* owner, CKTLibraryValidator validator)
+        : m_pOwner(owner), m_Reader(validator.validator.release()) {
+        m_Reader.setDoNamespaces(true);
+        m_Reader.setIncludeIgnorableWhitespace(false);
+        m_Reader.setCreateEntityReferenceNodes(false);
+        m_Reader.setHandleMultipleImports(true);
+        m_Limits.setEntityExpansionLimit(kMaxEntityExpansions);
+        m_Reader.setSecurityManager(&m_Limits);
+        m_Handler.setVerboseError(true);
+        m_Reader.setErrorHandler(&m_Handler);
+        m_Reader.setXMLEntityResolver(&m_Guard);
     }
-}
+
+    bool LoadSchema(const std::string& fileName);
+    bool ReadDocument(const std::string& fileName, bool validate, CKTXMLElement* root);
+    std::unique_ptr<CKTXMLElement> ReadSchemaTree(const std::string& fileName);
+    bool IsFlawless(const std::string& fileName);
+    std::unique_ptr<CKTXMLElement> TakeDocument();
+
+    [[nodiscard]] const CKTInputGuard& guard() const { return m_Guard; }
+    CKTDOMErrorHandler& handler() { return m_Handler; }
+    [[nodiscard]] const CKTHeldDiagnostics& held() const { return m_Held; }
+
+    std::unique_ptr<CKTXMLElement> MakeRoot() {
+        auto root = std::make_unique<CKTXMLElement>();
+        root->setParser(m_pOwner);
+        return root;
+    }
+
+    std::string parsedFile;  ///< what getXMLDocument is to return
+    FILE_TYPE parsedType = XML_DOCUMENT;
+    bool isParsed = false;
+    std::unique_ptr<CKTXMLElement> document;     ///< built by the last parse
+    std::unique_ptr<CKTDOMFormatTarget> target;  ///< the output machinery
+    std::unique_ptr<xercesc::XMLFormatter> formatter;
+
+private:
+    std::unique_ptr<xercesc::InputSource> OpenSource(const std::string& fileName);
+    bool Load(const xercesc::InputSource& source);
+    bool Parse(const xercesc::InputSource& source);
+    void SetUp(const Reading& reading, CKTXMLElement* root);
+
+    CKTDOMParser* m_pOwner;
+    CKTHeldDiagnostics m_Held;
+    CKTDOMErrorHandler m_Handler;
+    CKTInputGuard m_Guard{m_Handler};
+    xercesc::SecurityManager m_Limits;
+    CKTTreeReader m_Reader;
+};
+
+CKTDOMParser::CKTDOMParser() : CKTDOMParser(CKTLibraryValidator{}) {}
+
+CKTDOMParser::CKTDOMParser(CKTLibraryValidator validator)
+    : m_pLibrary(std::make_unique<CKTLibrary>(this, std::move(validator))) {}
+
+CKTDOMParser::~CKTDOMParser() = default;
 
 void CKTDOMParser::InitializePlatform() {
-    try {
-        xercesc::XMLPlatformUtils::Initialize();
-    } catch (const xercesc::XMLException& e) {
-        ReportException("Error during Xerces-c Initialization. Exception message: ", e);
-    }
-}
-
-void CKTDOMParser::InitializeParser() {
-    m_pDOMParser->setDoNamespaces(true);
-    m_pDOMParser->setDoSchema(true);
-    m_pDOMParser->setIncludeIgnorableWhitespace(false);
-    m_pDOMParser->setCreateEntityReferenceNodes(false);
-    m_Limits.setEntityExpansionLimit(kMaxEntityExpansions);
-    m_pDOMParser->setSecurityManager(&m_Limits);
-    m_bParsed = false;
-    try {
-        m_pErrorHandler = std::make_unique<CKTDOMErrorHandler>();
-    } catch (const std::bad_alloc&) {
-        WriteLine(std::cerr, {"Failed to create KTDOMErrorHandler"});
-        return;
-    }
-    m_pDOMParser->setErrorHandler(m_pErrorHandler.get());
-    setVerboseError(true);
-    m_pInputGuard = std::make_unique<CKTInputGuard>(*m_pErrorHandler);
-    m_pDOMParser->setXMLEntityResolver(m_pInputGuard.get());
+    CKTPlatform::Start();
 }
 
 bool CKTDOMParser::ParseFile(const std::string& fileName, FILE_TYPE type, bool validate) {
-    if (m_pErrorHandler != nullptr) {
-        m_pErrorHandler->setMuted(false);
-    }
+    CKTLibrary& library = *m_pLibrary;
+    library.parsedFile = fileName;
+    library.parsedType = type;
+    library.document.reset();
     if (type == XML_SCHEMA) {
-        std::cout << "\n";
-        WriteLine(std::cout, {"Validating ", fileName, " for well-formedness."});
+        AnnounceSchema(fileName);
+        library.isParsed = library.LoadSchema(fileName);
+        return library.isParsed;
     }
+    library.document = library.MakeRoot();
+    library.isParsed =
+        library.ReadDocument(fileName, validate || type != XML_DOCUMENT, library.document.get());
+    if (!library.isParsed) {
+        library.document.reset();
+    }
+    return library.isParsed;
+}
+
+/// Loads a schema with everything that it reaches. The grammar is given back at once: what a tree
+/// needs is checked then.
+bool CKTDOMParser::CKTLibrary::LoadSchema(const std::string& fileName) {
+    m_Handler.setMuted(false);
+    const int errors = m_nErrorCount;
+    const int warnings = m_nWarningCount;
     const std::unique_ptr<xercesc::InputSource> source = OpenSource(fileName);
-    if (source == nullptr) {
-        m_bParsed = false;
-        return false;
-    }
-    switch (type) {
-        case XML_DOCUMENT:
-            m_pDOMParser->setDoSchema(validate);
-            m_pDOMParser->setValidationScheme(validate ? XercesDOMParser::Val_Always
-                                                       : XercesDOMParser::Val_Never);
-            break;
-        case XML_SCHEMA:
-            m_pDOMParser->setValidationScheme(XercesDOMParser::Val_Auto);
-            if (!LoadSchema(*source)) {
-                return false;
-            }
-            break;
-        default:
-            m_pDOMParser->setValidationScheme(XercesDOMParser::Val_Always);
-            break;
-    }
-    if (type != XML_SCHEMA && m_pInputGuard != nullptr &&
-        !m_pInputGuard->IsAcceptableDocument(*source)) {
-        m_bParsed = false;
-        return false;
-    }
-    return Parse(*source);
+    return source != nullptr && Load(*source) && errors == m_nErrorCount &&
+           warnings == m_nWarningCount;
 }
 
 /// Makes the input source of a file. One that cannot be read as a file is reported here in the
 /// library's words: on its way to them the library loses memory, and a pipe would hold it up.
-std::unique_ptr<xercesc::InputSource> CKTDOMParser::OpenSource(const std::string& fileName) {
+std::unique_ptr<xercesc::InputSource> CKTDOMParser::CKTLibrary::OpenSource(
+    const std::string& fileName) {
     std::u16string fault = u"unable to read data from file";
     try {
-        auto source = MakeInputSource(nullptr, WidenText(fileName).c_str());
+        auto source = MakeInputSource(nullptr, PathText(fileName).c_str());
         if (!IsUnreadableFile(*source)) {
             return source;
         }
     } catch (const xercesc::XMLException& e) {
         fault = e.getMessage();
     }
-    if (m_pErrorHandler != nullptr) {
-        m_pErrorHandler->fatalError(
-            xercesc::SAXParseException(fault.c_str(), nullptr, nullptr, 0, 0));
-    }
+    m_Handler.fatalError(xercesc::SAXParseException(fault.c_str(), nullptr, nullptr, 0, 0));
     return nullptr;
 }
 
-bool CKTDOMParser::LoadSchema(const xercesc::InputSource& source) {
+void CKTDOMParser::CKTLibrary::SetUp(const Reading& reading, CKTXMLElement* root) {
+    m_Reader.setDoSchema(reading.validates);
+    m_Reader.setValidationScheme(reading.validates ? xercesc::XercesDOMParser::Val_Always
+                                                   : xercesc::XercesDOMParser::Val_Never);
+    m_Reader.setLoadExternalDTD(!reading.isSchema);
+    m_Reader.BuildBelow(root, m_pOwner, reading.isSchema);
+}
+
+bool CKTDOMParser::CKTLibrary::Load(const xercesc::InputSource& source) {
+    m_Reader.setDoSchema(true);
+    m_Reader.setValidationScheme(xercesc::XercesDOMParser::Val_Auto);
     try {
-        if (m_pInputGuard == nullptr || m_pInputGuard->IsAcceptableSchema(source)) {
-            m_pDOMParser->loadGrammar(source, xercesc::Grammar::SchemaGrammarType, true);
-            m_pDOMParser->useCachedGrammarInParse(true);
+        if (m_Guard.AdmitSchema(source)) {
+            m_Reader.loadGrammar(source, xercesc::Grammar::SchemaGrammarType, true);
+            m_Reader.resetCachedGrammarPool();
         }
+        return true;
     } catch (const xercesc::XMLException& e) {
         ReportException("Error : Unable to load schema. Exception Message: ", e);
     } catch (const xercesc::DOMException& e) {
@@ -145,144 +183,138 @@ bool CKTDOMParser::LoadSchema(const xercesc::InputSource& source) {
     } catch (const xercesc::OutOfMemoryException&) {
         WriteLine(std::cerr, {"Error : Unable to load schema. Out of memory"});
     }
-    return m_pErrorHandler == nullptr || (m_nErrorCount == 0 && m_nWarningCount == 0);
+    return false;
 }
 
-bool CKTDOMParser::Parse(const xercesc::InputSource& source) {
-    bool usable = false;
+bool CKTDOMParser::CKTLibrary::ReadDocument(const std::string& fileName, bool validate,
+                                            CKTXMLElement* root) {
+    m_Handler.setMuted(false);
+    const std::unique_ptr<xercesc::InputSource> source = OpenSource(fileName);
+    SetUp({validate, false}, root);
+    return source != nullptr && Parse(*source);
+}
+
+bool CKTDOMParser::CKTLibrary::Parse(const xercesc::InputSource& source) {
     try {
-        // An earlier document stays in memory until its pool is emptied.
-        m_pDOMParser->resetDocumentPool();
-        m_pDOMParser->parse(source);
-        usable = m_pDOMParser->getErrorCount() < 1;
+        return m_Reader.Read(source) && m_Reader.getErrorCount() < 1;
     } catch (const xercesc::XMLException& e) {
         ReportException("An error occured during parsing. Exception Message: ", e);
         ++m_nErrorCount;
-        usable = true;
+        return true;
     } catch (const xercesc::DOMException& e) {
         WriteLine(std::cerr, {"A DOM error occured during parsing. DOMException code: ",
                               std::to_string(e.code)});
-        ++m_nErrorCount;
     } catch (...) {
         WriteLine(std::cerr, {"An error occured during parsing"});
-        ++m_nErrorCount;
     }
-    m_bParsed = usable;
-    return usable;
+    ++m_nErrorCount;
+    return false;
+}
+
+std::unique_ptr<CKTXMLElement> CKTDOMParser::CKTLibrary::ReadSchemaTree(
+    const std::string& fileName) {
+    m_Handler.setMuted(false);
+    const std::unique_ptr<xercesc::InputSource> source = OpenSource(fileName);
+    std::unique_ptr<CKTXMLElement> root = MakeRoot();
+    SetUp({false, true}, root.get());
+    return source != nullptr && Parse(*source) ? std::move(root) : nullptr;
+}
+
+bool CKTDOMParser::CKTLibrary::IsFlawless(const std::string& fileName) {
+    m_Held = {};
+    m_Handler.setHeld(&m_Held);
+    m_Handler.setMuted(false);
+    try {
+        if (const auto source = OpenSource(fileName)) {
+            SetUp({true, false}, nullptr);
+            m_Reader.Read(*source);
+        }
+    } catch (...) {
+        // Whatever it is, the passes that report meet it again.
+        m_Held.isComplete = false;
+    }
+    m_Handler.setHeld(nullptr);
+    return m_Held.isComplete && m_Held.errors == 0 && m_Held.warnings == 0;
+}
+
+std::unique_ptr<CKTXMLElement> CKTDOMParser::CKTLibrary::TakeDocument() {
+    if (document != nullptr) {
+        return std::move(document);
+    }
+    if (parsedType == XML_SCHEMA) {
+        return ReadSchemaTree(parsedFile);
+    }
+    std::unique_ptr<CKTXMLElement> root = MakeRoot();
+    return ReadDocument(parsedFile, false, root.get()) ? std::move(root) : nullptr;
 }
 
 std::unique_ptr<CKTXMLElement> CKTDOMParser::getXMLDocument() {
-    if (!m_bParsed || m_pDOMParser->getDocument() == nullptr) {
+    CKTLibrary& library = *m_pLibrary;
+    if (!library.isParsed) {
         return nullptr;
     }
     try {
-        m_pFormatter.reset();
-        m_pFormatTarget = std::make_unique<CKTDOMFormatTarget>();
-        m_pFormatter = std::make_unique<xercesc::XMLFormatter>(
-            xercesc::XMLUni::fgUTF8EncodingString, m_pFormatTarget.get(),
+        library.formatter.reset();
+        library.target = std::make_unique<CKTDOMFormatTarget>();
+        library.formatter = std::make_unique<xercesc::XMLFormatter>(
+            xercesc::XMLUni::fgUTF8EncodingString, library.target.get(),
             xercesc::XMLFormatter::NoEscapes, xercesc::XMLFormatter::UnRep_CharRef);
-        auto root = std::make_unique<CKTXMLElement>();
-        root->setParser(this);
-        getXMLElement(*m_pDOMParser->getDocument(), root.get());
-        return root;
     } catch (const xercesc::XMLException& e) {
         ReportException("An error occurred during creation of output transcoder. Msg is: ", e);
         return nullptr;
     }
+    return library.TakeDocument();
 }
 
-// Walks the library's document with a stack of its own, because it may be nested without bound. The
-// way up is remembered: the library finds a parent only by casts at run time.
-void CKTDOMParser::getXMLElement(const DOMNode& node, CKTXMLElement* parent) {
-    struct Place {
-        const DOMNode* node;
-        CKTXMLElement* parent;
-    };
-    std::vector<Place> pending = {{&node, parent}};
-    while (!pending.empty()) {
-        Place& place = pending.back();
-        const DOMNode* at = place.node;
-        CKTXMLElement* above = place.parent;
-        place.node = at == &node ? nullptr : at->getNextSibling();
-        if (place.node == nullptr) {
-            pending.pop_back();
-        }
-        CKTXMLElement* element = copyNode(*at, above);
-        if (element != nullptr && at->getFirstChild() != nullptr) {
-            pending.push_back({at->getFirstChild(), element});
-        }
+std::unique_ptr<CKTXMLElement> CKTDOMParser::ReadJudgedSchema(const std::string& fileName) {
+    AnnounceSchema(fileName);
+    return m_pLibrary->ReadSchemaTree(fileName);
+}
+
+bool CKTDOMParser::HasReached(const std::string& fileName) const {
+    return m_pLibrary->guard().HasReached(fileName);
+}
+
+bool CKTDOMParser::CheckDocument(const std::string& fileName, bool validate) {
+    return m_pLibrary->ReadDocument(fileName, validate, nullptr);
+}
+
+bool CKTDOMParser::IsFlawless(const std::string& fileName) {
+    return m_pLibrary->IsFlawless(fileName);
+}
+
+bool CKTDOMParser::ReportHeldComplaints() {
+    const CKTHeldDiagnostics& held = m_pLibrary->held();
+    if (held.isComplete) {
+        CKTDOMErrorHandler::Report(held);
     }
-}
-
-/// Copies one node without what is below it. Returns the element that its children belong to, null
-/// for a node whose subtree is left out.
-CKTXMLElement* CKTDOMParser::copyNode(const DOMNode& node, CKTXMLElement* parent) {
-    switch (node.getNodeType()) {
-        case DOMNode::ELEMENT_NODE:
-            return copyElement(node, parent);
-        case DOMNode::TEXT_NODE:
-            if (parent != nullptr) {
-                parent->setValue(NarrowText(node.getNodeValue()));
-            }
-            return nullptr;
-        case DOMNode::DOCUMENT_NODE:
-            return parent;
-        case DOMNode::CDATA_SECTION_NODE:
-        case DOMNode::ENTITY_REFERENCE_NODE:
-        case DOMNode::ENTITY_NODE:
-        case DOMNode::PROCESSING_INSTRUCTION_NODE:
-        case DOMNode::COMMENT_NODE:
-        case DOMNode::DOCUMENT_TYPE_NODE:
-            return nullptr;
-        default:
-            WriteLine(std::cerr, {"Unrecognized node type = ", std::to_string(node.getNodeType())});
-            return nullptr;
-    }
-}
-
-CKTXMLElement* CKTDOMParser::copyElement(const DOMNode& node, CKTXMLElement* parent) {
-    auto element = std::make_unique<CKTXMLElement>(NarrowText(node.getNodeName()));
-    element->setParent(parent);
-    element->setParser(this);
-    const xercesc::DOMNamedNodeMap* attributes = node.getAttributes();
-    for (XMLSize_t i = 0; i < attributes->getLength(); ++i) {
-        const DOMNode* source = attributes->item(i);
-        auto attribute = std::make_unique<CKTXMLAttribute>(NarrowText(source->getNodeName()),
-                                                           NarrowText(source->getNodeValue()));
-        attribute->setParent(element.get());
-        element->addAttribute(std::move(attribute));
-    }
-    return parent->addChildElement(std::move(element));
-}
-
-void CKTDOMParser::ReleaseDocument() {
-    m_pDOMParser->resetDocumentPool();
-    m_pDOMParser->resetCachedGrammarPool();
-    m_bParsed = false;
+    return held.isComplete;
 }
 
 int CKTDOMParser::getErrorCount() const {
-    return m_pErrorHandler == nullptr ? 1 : m_nErrorCount;
+    return m_nErrorCount;
 }
 
 int CKTDOMParser::getWarningCount() const {
-    return m_pErrorHandler == nullptr ? 1 : m_nWarningCount;
+    return m_nWarningCount;
 }
 
 void CKTDOMParser::setVerboseError(bool verbose) {
-    if (m_pErrorHandler != nullptr) {
-        m_pErrorHandler->setVerboseError(verbose);
-    }
+    m_pLibrary->handler().setVerboseError(verbose);
 }
 
 void CKTDOMParser::DisplayErrorSummary() {
-    if (m_pErrorHandler != nullptr) {
-        m_pErrorHandler->DisplayErrorMsgSummary();
-    }
+    m_pLibrary->handler().DisplayErrorMsgSummary();
 }
 
 void CKTDOMParser::ResetErrors() {
-    if (m_pErrorHandler != nullptr) {
-        m_pErrorHandler->resetErrors();
-    }
+    m_pLibrary->handler().resetErrors();
+}
+
+xercesc::XMLFormatter* CKTDOMParser::getXMLFormatter() const {
+    return m_pLibrary->formatter.get();
+}
+
+CKTDOMFormatTarget* CKTDOMParser::getFormatTarget() const {
+    return m_pLibrary->target.get();
 }

@@ -4,31 +4,25 @@
 #include <memory>
 #include <string>
 
-#include <xercesc/dom/DOMNode.hpp>
-#include <xercesc/framework/XMLFormatter.hpp>
-#include <xercesc/framework/XMLValidator.hpp>
-#include <xercesc/parsers/XercesDOMParser.hpp>
-#include <xercesc/util/SecurityManager.hpp>
-
-#include "xml/InputGuard.h"
-#include "xml/KTDOMErrorHandler.h"
 #include "xml/KTDOMFormatTarget.h"
 #include "xml/KTXMLElement.h"
 
-/// Parses one file by name with the parser library and turns it into the program's element tree.
-/// Parsers may overlap: the library counts its initialisations. A parser must outlive every use of
+struct CKTLibraryValidator;
+
+/// Reads files with the parser library, into the program's element trees or into nothing. A parser
+/// may read any number of files, and parsers may overlap. It must outlive every use of
 /// getXMLFormatter and getFormatTarget on the trees that it built.
 class CKTDOMParser {
 public:
     enum FILE_TYPE {
         XML_DOCUMENT = 0,   ///< an ordinary document
-        XML_SCHEMA = 1,     ///< loaded as a grammar first, then parsed
+        XML_SCHEMA = 1,     ///< loaded as a grammar, with everything that it reaches
         XML_VALIDATED = 2,  ///< parsed with validation switched on
     };
 
     CKTDOMParser();
     /// Takes a validator of the caller's over and parses with it.
-    explicit CKTDOMParser(std::unique_ptr<xercesc::XMLValidator> validator);
+    explicit CKTDOMParser(CKTLibraryValidator validator);
     virtual ~CKTDOMParser();
     CKTDOMParser(const CKTDOMParser&) = delete;
     CKTDOMParser& operator=(const CKTDOMParser&) = delete;
@@ -37,17 +31,34 @@ public:
     static void InitializePlatform();
 
     /// Parses `fileName` and says whether a document is there to be used. Diagnostics go to
-    /// standard error and into the process-wide counters; a schema is refused when any of these is
-    /// not 0 after its grammar was loaded. `validate` has a meaning for XML_DOCUMENT only.
+    /// standard error and into the process-wide counters; a schema is refused when its load adds to
+    /// any of these. `validate` has a meaning for XML_DOCUMENT only.
     bool ParseFile(const std::string& fileName, FILE_TYPE type, bool validate);
 
-    /// Builds a new element tree of the parsed document, whose root stands for the document.
-    /// Returns null when there was no successful parse, or, after a line on standard error, when
-    /// the library fails.
+    /// Returns the element tree of the document parsed last, whose root stands for the document.
+    /// Null when there was no successful parse, or, after a line on standard error, when the
+    /// library fails. The tree of a schema, and a second tree of the same document, is read from
+    /// the file now.
     std::unique_ptr<CKTXMLElement> getXMLDocument();
 
-    /// Gives the memory of the parsed document and of cached grammars back.
-    void ReleaseDocument();
+    /// Announces a schema file as ParseFile does and reads its tree, but does not load it: a load
+    /// that reached it has judged it. Null after a diagnostic when it cannot be read any more.
+    std::unique_ptr<CKTXMLElement> ReadJudgedSchema(const std::string& fileName);
+
+    /// Says whether a schema load of this parser was given the file `fileName`, whatever name led
+    /// to it.
+    [[nodiscard]] bool HasReached(const std::string& fileName) const;
+
+    /// Reads a document through as ParseFile does, and builds nothing of it.
+    bool CheckDocument(const std::string& fileName, bool validate);
+
+    /// Reads a document through with validation and says whether there is nothing to complain of.
+    /// Nothing is printed or counted: complaints are held.
+    bool IsFlawless(const std::string& fileName);
+
+    /// Prints and counts the complaints that IsFlawless held. False, with nothing printed, when
+    /// there were too many to hold.
+    bool ReportHeldComplaints();
 
     /// The process-wide counters; 1 when there is no error handler, so that such a parser looks
     /// failed.
@@ -60,25 +71,12 @@ public:
     void ResetErrors();
 
     /// The output machinery made by the last getXMLDocument; null before it.
-    [[nodiscard]] xercesc::XMLFormatter* getXMLFormatter() const { return m_pFormatter.get(); }
-    [[nodiscard]] CKTDOMFormatTarget* getFormatTarget() const { return m_pFormatTarget.get(); }
+    [[nodiscard]] xercesc::XMLFormatter* getXMLFormatter() const;
+    [[nodiscard]] CKTDOMFormatTarget* getFormatTarget() const;
 
 private:
-    void InitializeParser();
-    std::unique_ptr<xercesc::InputSource> OpenSource(const std::string& fileName);
-    bool LoadSchema(const xercesc::InputSource& source);
-    bool Parse(const xercesc::InputSource& source);
-    void getXMLElement(const xercesc::DOMNode& node, CKTXMLElement* parent);
-    CKTXMLElement* copyElement(const xercesc::DOMNode& node, CKTXMLElement* parent);
-    CKTXMLElement* copyNode(const xercesc::DOMNode& node, CKTXMLElement* parent);
-
-    xercesc::SecurityManager m_Limits;
-    std::unique_ptr<CKTDOMErrorHandler> m_pErrorHandler;
-    std::unique_ptr<CKTInputGuard> m_pInputGuard;
-    std::unique_ptr<xercesc::XercesDOMParser> m_pDOMParser;
-    std::unique_ptr<CKTDOMFormatTarget> m_pFormatTarget;
-    std::unique_ptr<xercesc::XMLFormatter> m_pFormatter;
-    bool m_bParsed = false;
+    class CKTLibrary;
+    std::unique_ptr<CKTLibrary> m_pLibrary;
 };
 
 #endif

@@ -1,11 +1,20 @@
 #include "xml/KTXMLElement.h"
 
+#include <functional>
 #include <iterator>
+#include <unordered_set>
 #include <utility>
 
 #include "xml/KTDOMParser.h"
 
 namespace {
+
+struct NameHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view name) const {
+        return std::hash<std::string_view>()(name);
+    }
+};
 
 /// Links a new last entry of a list with the one before it.
 template <typename List>
@@ -30,8 +39,21 @@ std::string_view CKTXMLNode::getNonQualifiedName(std::string_view name) {
     return colon == std::string_view::npos ? name : name.substr(colon + 1);
 }
 
-CKTXMLAttribute::CKTXMLAttribute(std::string name, std::string value)
-    : m_sName(std::move(name)), m_sValue(std::move(value)) {}
+const std::string* CKTXMLNode::InternName(std::string_view name) {
+    static std::unordered_set<std::string, NameHash, std::equal_to<>> names;
+    const auto known = names.find(name);
+    return known != names.end() ? &*known : &*names.emplace(name).first;
+}
+
+CKTXMLAttribute::CKTXMLAttribute(std::string_view name, std::string value)
+    : m_pName(InternName(name)), m_sValue(std::move(value)) {}
+
+CKTXMLElement::CKTXMLElement(std::string_view name)
+    : m_pName(InternName(name)), m_pNamespace(InternName({})) {}
+
+void CKTXMLElement::setNamespace(std::string_view uri) {
+    m_pNamespace = InternName(uri);
+}
 
 // Flattened, because a tree may be nested more deeply than the stack could follow.
 CKTXMLElement::~CKTXMLElement() {

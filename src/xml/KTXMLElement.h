@@ -18,9 +18,13 @@ class CKTDOMFormatTarget;
 class CKTDOMParser;
 class CKTXMLElement;
 
-/// The common ancestor of elements and attributes: helpers for qualified names.
+/// The common ancestor of elements and attributes: helpers for qualified names. A tree holds few
+/// names many times, so each name stands once in the process, and nodes point at it.
 class CKTXMLNode {
 public:
+    /// The one copy of `name`; it stays where it is until the process ends.
+    static const std::string* InternName(std::string_view name);
+
     /// The part of `name` before its first colon; empty without one. The result is a part of
     /// `name`.
     static std::string_view getNameQualifier(std::string_view name);
@@ -37,10 +41,10 @@ class CKTXMLAttribute : public CKTXMLNode {
 public:
     static constexpr std::int32_t m_nNodeType = 2;
 
-    CKTXMLAttribute() = default;
-    CKTXMLAttribute(std::string name, std::string value);
+    CKTXMLAttribute() : CKTXMLAttribute({}, {}) {}
+    CKTXMLAttribute(std::string_view name, std::string value);
 
-    [[nodiscard]] const std::string& getName() const { return m_sName; }
+    [[nodiscard]] const std::string& getName() const { return *m_pName; }
     [[nodiscard]] const std::string& getValue() const { return m_sValue; }
 
     /// The owning element; set by whoever adds the attribute. Null until then.
@@ -54,7 +58,7 @@ public:
     [[nodiscard]] CKTXMLAttribute* getNextSibling() const { return m_pNextSibling; }
 
 private:
-    std::string m_sName;
+    const std::string* m_pName;
     std::string m_sValue;
     CKTXMLElement* m_pParent = nullptr;
     CKTXMLAttribute* m_pPrevSibling = nullptr;
@@ -71,21 +75,21 @@ public:
     /// A search test: returns the element to record (normally the one given), or null for no match.
     using Compare = CKTXMLElement* (*)(CKTXMLElement* element, const std::string& key);
 
-    CKTXMLElement() = default;
-    explicit CKTXMLElement(std::string name) : m_sName(std::move(name)) {}
+    CKTXMLElement() : CKTXMLElement(std::string_view()) {}
+    explicit CKTXMLElement(std::string_view name);
     virtual ~CKTXMLElement();
     CKTXMLElement(const CKTXMLElement&) = delete;
     CKTXMLElement& operator=(const CKTXMLElement&) = delete;
 
-    [[nodiscard]] const std::string& getName() const { return m_sName; }
+    [[nodiscard]] const std::string& getName() const { return *m_pName; }
 
     /// The text content: that of the last text child, empty without one.
     void setValue(std::string value) { m_sValue = std::move(value); }
     [[nodiscard]] const std::string& getValue() const { return m_sValue; }
 
     /// The namespace recorded for a global element of a schema; empty for others.
-    void setNamespace(std::string uri) { m_sNamespace = std::move(uri); }
-    [[nodiscard]] const std::string& getNamespace() const { return m_sNamespace; }
+    void setNamespace(std::string_view uri);
+    [[nodiscard]] const std::string& getNamespace() const { return *m_pNamespace; }
 
     /// The element above; null for the root. A declaration that was moved into another tree keeps
     /// the parent under which it was written.
@@ -100,6 +104,9 @@ public:
     [[nodiscard]] CKTXMLElement* getPrevSibling() const { return m_pPrevSibling; }
     void setNextSibling(CKTXMLElement* sibling) { m_pNextSibling = sibling; }
     [[nodiscard]] CKTXMLElement* getNextSibling() const { return m_pNextSibling; }
+
+    /// Makes room for `count` attributes at once.
+    void reserveAttributes(std::size_t count) { m_AttrList.reserve(count); }
 
     /// Appends and links an attribute or a child element, whose parent the caller sets. Returns it.
     CKTXMLAttribute* addAttribute(std::unique_ptr<CKTXMLAttribute> attribute);
@@ -134,9 +141,9 @@ public:
     [[nodiscard]] CKTDOMFormatTarget* getFormatTarget() const;
 
 private:
-    std::string m_sName;
+    const std::string* m_pName;
     std::string m_sValue;
-    std::string m_sNamespace;
+    const std::string* m_pNamespace;
     CKTXMLElement* m_pParent = nullptr;
     CKTXMLElement* m_pPrevSibling = nullptr;
     CKTXMLElement* m_pNextSibling = nullptr;

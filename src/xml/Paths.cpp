@@ -1,43 +1,161 @@
+// File names on their way to the parser library and back. The library keeps names as UTF-16; its
+// own conversion loses what the locale cannot decode, so names are converted here, without a loss.
+
 #include "xml/Paths.h"
 
-#include <memory>
-
-#include <xercesc/framework/MemoryManager.hpp>
-#include <xercesc/util/PlatformUtils.hpp>
-#include <xercesc/util/XMLException.hpp>
-
-#include "support/Text.h"
-
-using xercesc::XMLPlatformUtils;
+#include <algorithm>
+#include <array>
+#include <climits>
+#include <cwchar>
+#include <filesystem>
+#include <system_error>
 
 namespace {
 
-struct LibraryTextDeleter {
-    void operator()(XMLCh* text) const { XMLPlatformUtils::fgMemoryManager->deallocate(text); }
-};
-using LibraryText = std::unique_ptr<XMLCh, LibraryTextDeleter>;
+constexpr char32_t kFirstSupplementary = 0x10000;
+constexpr char16_t kHighSurrogates = 0xD800;
+constexpr char16_t kLowSurrogates = 0xDC00;
+constexpr char16_t kFirstByte = kLowSurrogates + 0x80;
+constexpr char16_t kLastByte = kLowSurrogates + 0xFF;
+
+void AppendCharacter(std::u16string& text, char32_t c) {
+    if (c < kFirstSupplementary) {
+        text += static_cast<char16_t>(c);
+        return;
+    }
+    c -= kFirstSupplementary;
+    text += static_cast<char16_t>(kHighSurrogates + (c >> 10));
+    text += static_cast<char16_t>(kLowSurrogates + (c & 0x3FF));
+}
+
+/// Takes the character at `at`, which moves to its last unit.
+char32_t TakeCharacter(std::u16string_view text, std::size_t& at) {
+    const char16_t unit = text[at];
+    const bool pair = unit >= kHighSurrogates && unit < kLowSurrogates && at + 1 < text.size() &&
+                      (text[at + 1] & 0xFC00) == kLowSurrogates;
+    if (!pair) {
+        return unit;
+    }
+    const char16_t low = text[++at];
+    return kFirstSupplementary + (static_cast<char32_t>(unit - kHighSurrogates) << 10) +
+           (low - kLowSurrogates);
+}
+
+void AppendUtf8(std::string& bytes, char32_t c) {
+    const auto continued = [](char32_t bits) { return static_cast<char>(0x80 | (bits & 0x3F)); };
+    if (c < 0x800) {
+        bytes += static_cast<char>(0xC0 | (c >> 6));
+    } else {
+        if (c < kFirstSupplementary) {
+            bytes += static_cast<char>(0xE0 | (c >> 12));
+        } else {
+            bytes += static_cast<char>(0xF0 | (c >> 18));
+            bytes += continued(c >> 12);
+        }
+        bytes += continued(c >> 6);
+    }
+    bytes += continued(c);
+}
 
 }  // namespace
 
+std::u16string PathText(std::string_view path) {
+    std::u16string text;
+    std::mbstate_t state{};
+    for (std::size_t at = 0; at < path.size();) {
+        const auto byte = static_cast<unsigned char>(path[at]);
+        wchar_t c = byte;
+        std::size_t length = 1;
+        if (byte >= 0x80) {
+            length = std::mbrtowc(&c, path.data() + at, path.size() - at, &state);
+        }
+        if (length == 0 || length > path.size()) {
+            state = {};
+            length = 1;
+            c = static_cast<wchar_t>(kLowSurrogates + byte);
+        }
+        AppendCharacter(text, static_cast<char32_t>(c));
+        at += length;
+    }
+    return text;
+}
+
+std::string PathBytes(std::u16string_view text) {
+    std::string bytes;
+    std::mbstate_t state{};
+    std::array<char, MB_LEN_MAX> encoded{};
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const char32_t c = TakeCharacter(text, at);
+        if (c < 0x80) {
+            bytes += static_cast<char>(c);
+        } else if (c >= kFirstByte && c <= kLastByte) {
+            bytes += static_cast<char>(c - kLowSurrogates);
+        } else {
+            const std::size_t length =
+                std::wcrtomb(encoded.data(), static_cast<wchar_t>(c), &state);
+            if (length > encoded.size()) {
+                state = {};
+                AppendUtf8(bytes, c);
+            } else {
+                bytes.append(encoded.data(), length);
+            }
+        }
+    }
+    return bytes;
+}
+
 bool IsRelativePath(const std::string& path) {
-    return XMLPlatformUtils::isRelative(WidenText(path.c_str()).c_str());
+    return !path.empty() && path.front() != '/';
+}
+
+std::string WithoutDotSlash(std::string path) {
+    std::string result;
+    for (std::size_t at = 0; at < path.size(); ++at) {
+        if (path.compare(at, 3, "/./") == 0) {
+            ++at;  // the next round looks at the second slash, which may begin another one
+        } else {
+            result += path[at];
+        }
+    }
+    return result;
+}
+
+std::string WithoutDotDotSlash(std::string path) {
+    std::size_t from = 1;
+    for (std::size_t at = path.find("/../", from); at != std::string::npos;
+         at = path.find("/../", from)) {
+        const std::size_t before = path.rfind('/', at - 1);
+        if (before == std::string::npos || path.compare(before, at - before, "/..") == 0) {
+            from = at + 3;
+        } else {
+            path.erase(before, at + 3 - before);
+            from = std::max<std::size_t>(before, 1);
+        }
+    }
+    return path;
 }
 
 std::string WeavePaths(const std::string& base, const std::string& path) {
-    try {
-        const LibraryText woven(XMLPlatformUtils::weavePaths(WidenText(base.c_str()).c_str(),
-                                                             WidenText(path.c_str()).c_str()));
-        return NarrowText(woven.get());
-    } catch (const xercesc::XMLException&) {
-        return path;
-    }
+    const std::size_t slash = base.rfind('/');
+    return slash == std::string::npos
+               ? path
+               : WithoutDotDotSlash(WithoutDotSlash(base.substr(0, slash + 1) + path));
 }
 
 std::string FullPath(const std::string& path) {
-    try {
-        const LibraryText full(XMLPlatformUtils::getFullPath(WidenText(path.c_str()).c_str()));
-        return NarrowText(full.get());
-    } catch (const xercesc::XMLException&) {
-        return path;
+    std::error_code error;
+    const std::filesystem::path directory = std::filesystem::current_path(error);
+    return error || !IsRelativePath(path) ? path : directory.string() + "/" + path;
+}
+
+std::string FileIdentity(const std::string& name) {
+    std::string_view local = name;
+    for (const std::string_view start : {"file://localhost/", "file:///"}) {
+        if (name.starts_with(start)) {
+            local.remove_prefix(start.size() - 1);
+        }
     }
+    std::error_code error;
+    const std::filesystem::path path = std::filesystem::canonical(local, error);
+    return error ? name : path.string();
 }

@@ -2,14 +2,30 @@
 #define DORVEX_XML_PATHS_H
 
 #include <string>
+#include <string_view>
 
-/// Says whether `path` is a relative path as the parser library sees it.
+/// The parser library's form of a file name and back. A file name is a row of bytes: one that the
+/// locale cannot decode becomes a lone surrogate, which no text holds, so that each name comes back
+/// byte for byte. A character of a document that the locale lacks is written in UTF-8.
+std::u16string PathText(std::string_view path);
+std::string PathBytes(std::u16string_view text);
+
+/// Says whether `path` counts from a directory that it does not name.
 bool IsRelativePath(const std::string& path);
+
+/// Removes each "." segment, or each segment that a ".." behind it takes back, from a path.
+std::string WithoutDotSlash(std::string path);
+std::string WithoutDotDotSlash(std::string path);
 
 /// Joins the directory part of `base` with the relative `path` and removes the dot segments.
 std::string WeavePaths(const std::string& base, const std::string& path);
 
-/// The full path of a file, links resolved; `path` itself when the library cannot tell.
+/// The working directory joined with a relative `path`; links stay as they are. `path` itself when
+/// it is no relative one or the directory cannot be told.
 std::string FullPath(const std::string& path);
+
+/// What all names of one file have in common: its path with the links resolved. A location that is
+/// no file stands for itself.
+std::string FileIdentity(const std::string& name);
 
 #endif

@@ -7,8 +7,9 @@
 
 #include "../support/CaseFiles.h"
 #include "../support/RedirectedStream.h"
+#include "SchemaFiles.h"
 #include "SchemaTree.h"
-#include "schema/SchemaStore.h"
+#include "schema/SchemaSet.h"
 
 namespace {
 
@@ -39,8 +40,9 @@ Outcome Generate(CKTXMLSchemaDoc* doc, const std::string& file) {
 }
 
 Outcome Generate(CKTXMLElement& root, const std::string& file) {
-    CKTSchemaStore store;
-    CKTXMLSchemaDoc doc(&root, nullptr, "t.xsd", store);
+    MemoryFiles files;
+    CKTSchemaSet set(files);
+    CKTXMLSchemaDoc doc(&root, nullptr, "t.xsd", set);
     return Generate(&doc, file);
 }
 
@@ -49,8 +51,9 @@ TEST(Generator, WithoutASchemaNothingIsWritten) {
     const std::string file = (scratch.Path() / "a.cpy").string();
     CKTXMLElement root;
     Add(&root, "definitions");
-    CKTSchemaStore store;
-    CKTXMLSchemaDoc noSchema(&root, nullptr, "t.xsd", store);
+    MemoryFiles files;
+    CKTSchemaSet set(files);
+    CKTXMLSchemaDoc noSchema(&root, nullptr, "t.xsd", set);
     const struct {
         CKTXMLSchemaDoc* doc;
         const char* errors;

@@ -5,9 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include "SchemaFiles.h"
 #include "SchemaTree.h"
 #include "schema/KTCOBOLGenerator.h"
-#include "schema/SchemaStore.h"
+#include "schema/SchemaSet.h"
 
 namespace {
 
@@ -62,9 +63,10 @@ TEST(SchemaDoc, AttributesAreFoundByNameAsWrittenOrByValue) {
 }
 
 TEST(SchemaDoc, TheFirstDocumentOfANamespaceIsTheOneFound) {
-    CKTSchemaStore store;
-    CKTXMLSchemaDoc first(store);
-    CKTXMLSchemaDoc second(store);
+    MemoryFiles files;
+    CKTSchemaSet set(files);
+    CKTXMLSchemaDoc first(set);
+    CKTXMLSchemaDoc second(set);
     CKTXMLNamespaceSchemaPair one("urn:a", &first);
     CKTXMLNamespaceSchemaPair two("urn:b", &second);
     CKTXMLNamespaceSchemaPair again;
@@ -82,14 +84,15 @@ TEST(SchemaDoc, TheFirstDocumentOfANamespaceIsTheOneFound) {
 TEST(SchemaDoc, TheFirstSchemaElementInTheTreeIsTheDocuments) {
     CKTXMLElement root;
     CKTXMLElement* outer = Add(&root, "definitions", {{"targetNamespace", "urn:outer"}});
-    CKTSchemaStore store;
-    CKTXMLSchemaDoc none(&root, nullptr, "t.xml", store);
+    MemoryFiles files;
+    CKTSchemaSet set(files);
+    CKTXMLSchemaDoc none(&root, nullptr, "t.xml", set);
     EXPECT_EQ(none.getSchemaElement(), nullptr);
     EXPECT_FALSE(none.InitializeElementLists());
     EXPECT_EQ(none.getTargetNamespace(), "");
 
     CKTXMLElement* schema = Add(Add(outer, "types"), "schema", {{"targetNamespace", "urn:t"}});
-    CKTXMLSchemaDoc empty(&root, nullptr, "t.xml", store);
+    CKTXMLSchemaDoc empty(&root, nullptr, "t.xml", set);
     EXPECT_EQ(empty.getSchemaElement(), schema);
     EXPECT_FALSE(empty.InitializeElementLists());
     EXPECT_EQ(empty.getTargetNamespace(), "");
@@ -97,7 +100,7 @@ TEST(SchemaDoc, TheFirstSchemaElementInTheTreeIsTheDocuments) {
     CKTXMLElement* inner = Add(Add(Add(schema, "annotation"), "appinfo"), "schema");
     Add(inner, "element", {{"name", "inner"}});
     CKTXMLElement* global = Add(schema, "element", {{"name", "outer"}});
-    const CKTXMLSchemaDoc doc(&root, nullptr, "t.xml", store);
+    const CKTXMLSchemaDoc doc(&root, nullptr, "t.xml", set);
     EXPECT_EQ(doc.getSchemaElement(), schema);
     EXPECT_EQ(doc.getSchemaElements(), CKTXMLSchemaDoc::ElementList{schema});
     EXPECT_EQ(doc.getList(ELEMENTS), CKTXMLSchemaDoc::ElementList{global});

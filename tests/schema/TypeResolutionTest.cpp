@@ -4,9 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include "SchemaFiles.h"
 #include "SchemaTree.h"
 #include "schema/KTCOBOLGenerator.h"
-#include "schema/SchemaStore.h"
+#include "schema/SchemaSet.h"
 
 namespace {
 
@@ -148,8 +149,9 @@ TEST(TypeResolution, ALookUpSearchesOneListOfTheDocumentThatTheNamespaceMeans) {
                             "attributeGroup", "simpleType"}) {
         made.push_back(Add(schema, std::string("xs:") + tag, {{"name", "n"}}));
     }
-    CKTSchemaStore store;
-    CKTXMLSchemaDoc doc(&root, nullptr, "t.xsd", store);
+    MemoryFiles files;
+    CKTSchemaSet set(files);
+    CKTXMLSchemaDoc doc(&root, nullptr, "t.xsd", set);
     const CurrentSchema current(schema);
     CKTCOBOLGenerator generator(&doc);
     for (const DeclarationList list :

@@ -1,0 +1,23 @@
+#ifndef DORVEX_SUPPORT_LIMITS_H
+#define DORVEX_SUPPORT_LIMITS_H
+
+#include <cstdint>
+#include <string>
+
+/// The bounds that keep an input from taking the program's time, memory or stack, and the texts
+/// that name them.
+
+/// Levels of elements in a schema file, and of parentheses in a pattern.
+inline constexpr std::uint64_t kMaxSchemaDepth = 20'000;
+/// Parts of all patterns of a schema file, each repetition counted.
+inline constexpr std::uint64_t kMaxPatternParts = 5'000'000;
+/// Entities expanded in a file, and the characters that come from them.
+inline constexpr std::uint64_t kMaxEntityExpansions = 50'000;
+inline constexpr std::uint64_t kMaxEntityText = 20'000'000;
+/// Repetitions of a model group in a schema that documents are validated against.
+inline constexpr std::uint64_t kMaxGroupRepetitions = 20'000;
+
+inline const std::string kTooMuchEntityText =
+    "entities expand to more than " + std::to_string(kMaxEntityText) + " characters";
+
+#endif

@@ -1,0 +1,247 @@
+// From the scanner's events to an element tree. The shape of the tree is that of a library document
+// that was copied: attributes in the order of their names, one text per run of characters between
+// two other nodes, of which the last one stays; CDATA sections, comments and the like end a run and
+// leave nothing.
+
+#include "xml/TreeReader.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <vector>
+
+#include <xercesc/framework/XMLAttr.hpp>
+#include <xercesc/framework/XMLElementDecl.hpp>
+#include <xercesc/internal/XMLScanner.hpp>
+#include <xercesc/sax/ErrorHandler.hpp>
+#include <xercesc/sax/SAXParseException.hpp>
+#include <xercesc/util/XMLResourceIdentifier.hpp>
+#include <xercesc/util/XMLString.hpp>
+#include <xercesc/util/XMLUni.hpp>
+#include <xercesc/validators/common/GrammarResolver.hpp>
+#include <xercesc/validators/schema/SchemaGrammar.hpp>
+
+#include "support/Limits.h"
+#include "support/Text.h"
+#include "xml/ContentModels.h"
+#include "xml/KTXMLElement.h"
+
+namespace {
+
+/// The library offers no way to leave a reading pass but an exception; it ends in Read.
+struct PassStopped {};
+
+constexpr std::array<std::string_view, 8> kTrimmedAttributes = {
+    "name",        "ref",       "type",          "base", "substitutionGroup",
+    "memberTypes", "namespace", "schemaLocation"};
+
+std::string Trimmed(const std::string& value) {
+    constexpr std::string_view kBlanks = " \t\r\n";
+    const std::size_t first = value.find_first_not_of(kBlanks);
+    return first == std::string::npos
+               ? std::string()
+               : value.substr(first, value.find_last_not_of(kBlanks) - first + 1);
+}
+
+}  // namespace
+
+CKTTreeReader::CKTTreeReader(xercesc::XMLValidator* validator)
+    : xercesc::XercesDOMParser(validator) {
+    // Declarations of a document type become no nodes; the scanner keeps what it needs of them.
+    getScanner()->setDocTypeHandler(nullptr);
+}
+
+CKTTreeReader::~CKTTreeReader() = default;
+
+void CKTTreeReader::BuildBelow(CKTXMLElement* root, CKTDOMParser* owner, bool isSchema) {
+    m_pCurrent = root;
+    m_pOwner = owner;
+    m_bSchema = isSchema;
+}
+
+bool CKTTreeReader::Read(const xercesc::InputSource& source) {
+    m_nDepth = 0;
+    m_nOpenEntities = 0;
+    m_nEntityText = 0;
+    m_bInText = false;
+    m_bSchemaLoaded = false;
+    try {
+        parse(source);
+    } catch (const PassStopped&) {
+        return false;
+    }
+    return true;
+}
+
+void CKTTreeReader::Stop() {
+    throw PassStopped{};
+}
+
+void CKTTreeReader::Refuse(const std::string& reason) {
+    if (xercesc::ErrorHandler* handler = getErrorHandler()) {
+        handler->fatalError(
+            xercesc::SAXParseException(WidenText(reason).c_str(), *getScanner()->getLocator()));
+    }
+    Stop();
+}
+
+void CKTTreeReader::startDocument() {}
+void CKTTreeReader::endDocument() {}
+
+void CKTTreeReader::startElement(const xercesc::XMLElementDecl& declaration, unsigned uriId,
+                                 const XMLCh* prefix,
+                                 const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
+                                 XMLSize_t count, bool isEmpty, bool isRoot) {
+    ++m_nDepth;
+    if (m_bSchemaLoaded) {
+        m_bSchemaLoaded = false;
+        CheckContentModels();
+    }
+    if (!getScanner()->getHasNoDTD()) {
+        for (XMLSize_t i = 0; i < count; ++i) {
+            CountEntityText(xercesc::XMLString::stringLen(attributes.elementAt(i)->getValue()));
+        }
+    }
+    if (m_pCurrent != nullptr) {
+        EndText();
+        m_sQualifiedName.clear();
+        if (uriId != getScanner()->getEmptyNamespaceId() && prefix != nullptr && *prefix != 0) {
+            m_sQualifiedName.append(prefix).push_back(u':');
+        }
+        m_sQualifiedName += declaration.getBaseName();
+        auto element = std::make_unique<CKTXMLElement>(*NarrowName(m_sQualifiedName));
+        element->setParent(m_pCurrent);
+        element->setParser(m_pOwner);
+        AddAttributes(*element, attributes, count);
+        m_pCurrent = m_pCurrent->addChildElement(std::move(element));
+    }
+    if (isEmpty) {
+        endElement(declaration, uriId, isRoot, prefix);
+    }
+}
+
+void CKTTreeReader::AddAttributes(CKTXMLElement& element,
+                                  const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
+                                  XMLSize_t count) {
+    m_Attributes.clear();
+    for (XMLSize_t i = 0; i < count; ++i) {
+        m_Attributes.push_back(attributes.elementAt(i));
+    }
+    std::stable_sort(m_Attributes.begin(), m_Attributes.end(),
+                     [](const xercesc::XMLAttr* a, const xercesc::XMLAttr* b) {
+                         return std::u16string_view(a->getQName()) < b->getQName();
+                     });
+    element.reserveAttributes(count);
+    for (const xercesc::XMLAttr* source : m_Attributes) {
+        const std::string* name = NarrowName(source->getQName());
+        std::string value = NarrowText(source->getValue());
+        if (m_bSchema && std::find(kTrimmedAttributes.begin(), kTrimmedAttributes.end(), *name) !=
+                             kTrimmedAttributes.end()) {
+            value = Trimmed(value);
+        }
+        auto attribute = std::make_unique<CKTXMLAttribute>(*name, std::move(value));
+        attribute->setParent(&element);
+        element.addAttribute(std::move(attribute));
+    }
+}
+
+void CKTTreeReader::endElement(const xercesc::XMLElementDecl& /*declaration*/, unsigned /*uriId*/,
+                               bool /*isRoot*/, const XMLCh* /*prefix*/) {
+    if (m_nDepth == 0) {
+        return;
+    }
+    --m_nDepth;
+    if (m_pCurrent != nullptr) {
+        EndText();
+        m_pCurrent = m_pCurrent->getParent();
+    }
+}
+
+void CKTTreeReader::docCharacters(const XMLCh* text, XMLSize_t length, bool isCData) {
+    if (m_nOpenEntities > 0) {
+        CountEntityText(length);
+    }
+    if (m_pCurrent == nullptr || m_nDepth == 0) {
+        return;
+    }
+    if (isCData) {
+        EndText();
+    } else {
+        m_bInText = true;
+        m_sText.append(text, length);
+    }
+}
+
+void CKTTreeReader::ignorableWhitespace(const XMLCh* /*text*/, XMLSize_t length, bool /*isCData*/) {
+    if (m_nOpenEntities > 0) {
+        CountEntityText(length);
+    }
+}
+
+void CKTTreeReader::docComment(const XMLCh* /*comment*/) {
+    EndText();
+}
+
+void CKTTreeReader::docPI(const XMLCh* /*target*/, const XMLCh* /*data*/) {
+    EndText();
+}
+
+void CKTTreeReader::startEntityReference(const xercesc::XMLEntityDecl& /*entity*/) {
+    ++m_nOpenEntities;
+}
+
+void CKTTreeReader::endEntityReference(const xercesc::XMLEntityDecl& /*entity*/) {
+    --m_nOpenEntities;
+}
+
+void CKTTreeReader::XMLDecl(const XMLCh* /*version*/, const XMLCh* /*encoding*/,
+                            const XMLCh* /*standalone*/, const XMLCh* /*actualEncoding*/) {}
+
+xercesc::InputSource* CKTTreeReader::resolveEntity(xercesc::XMLResourceIdentifier* resource) {
+    m_bSchemaLoaded = m_bSchemaLoaded || resource->getResourceIdentifierType() ==
+                                             xercesc::XMLResourceIdentifier::SchemaGrammar;
+    return XercesDOMParser::resolveEntity(resource);
+}
+
+/// Names repeat, so each is converted once; a failed conversion is reported each time.
+const std::string* CKTTreeReader::NarrowName(std::u16string_view name) {
+    const auto known = m_Names.find(name);
+    if (known != m_Names.end()) {
+        return known->second;
+    }
+    const std::string* narrow = CKTXMLNode::InternName(NarrowText(name));
+    if (!narrow->empty()) {
+        m_Names.emplace(name, narrow);
+    }
+    return narrow;
+}
+
+void CKTTreeReader::EndText() {
+    if (m_bInText) {
+        m_bInText = false;
+        m_pCurrent->setValue(NarrowText(m_sText));
+        m_sText.clear();
+    }
+}
+
+void CKTTreeReader::CountEntityText(XMLSize_t length) {
+    m_nEntityText += length;
+    if (m_nEntityText > kMaxEntityText) {
+        Refuse(kTooMuchEntityText);
+    }
+}
+
+void CKTTreeReader::CheckContentModels() {
+    xercesc::RefHashTableOfEnumerator<xercesc::Grammar> grammars =
+        getGrammarResolver()->getGrammarEnumerator();
+    while (grammars.hasMoreElements()) {
+        const auto* grammar = dynamic_cast<const xercesc::SchemaGrammar*>(&grammars.nextElement());
+        std::u16string type;
+        if (grammar == nullptr || AreContentModelsBounded(*grammar, type)) {
+            continue;
+        }
+        const bool isNamed = !type.starts_with(u"__Anon");
+        Refuse("a model group" + (isNamed ? " of type '" + NarrowMessage(type) + "'" : "") +
+               " repeats more than " + std::to_string(kMaxGroupRepetitions) + " times");
+    }
+}

@@ -1,0 +1,86 @@
+#ifndef DORVEX_XML_TREEREADER_H
+#define DORVEX_XML_TREEREADER_H
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include <xercesc/parsers/XercesDOMParser.hpp>
+
+class CKTDOMParser;
+class CKTXMLElement;
+
+/// The parser library's parser with its document left out: it turns the events of the scanner into
+/// the program's element tree at once, or into nothing. Memory does not grow with the length of a
+/// document of which nothing is built.
+class CKTTreeReader : public xercesc::XercesDOMParser {
+public:
+    /// `validator` may be null; it is taken over.
+    explicit CKTTreeReader(xercesc::XMLValidator* validator);
+    ~CKTTreeReader() override;
+
+    /// What to do with what is read next. `root` (borrowed, null for nothing) receives the document
+    /// element; `owner` is the parser that its elements name. In a schema, the blanks around names
+    /// and locations are left off.
+    void BuildBelow(CKTXMLElement* root, CKTDOMParser* owner, bool isSchema);
+
+    /// Reads `source` to its end with the settings of the parser, or up to the point where its
+    /// entities become too large or the schemas behind it repeat their content too often, which is
+    /// then reported as fatal error. Throws the library's exceptions. Returns whether it was read
+    /// to the end.
+    bool Read(const xercesc::InputSource& source);
+
+    /// Leaves the reading pass, from a report in its midst.
+    [[noreturn]] static void Stop();
+
+    // The scanner's events.
+    void startDocument() override;
+    void endDocument() override;
+    void startElement(const xercesc::XMLElementDecl& declaration, unsigned uriId,
+                      const XMLCh* prefix, const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
+                      XMLSize_t count, bool isEmpty, bool isRoot) override;
+    void endElement(const xercesc::XMLElementDecl& declaration, unsigned uriId, bool isRoot,
+                    const XMLCh* prefix) override;
+    void docCharacters(const XMLCh* text, XMLSize_t length, bool isCData) override;
+    void ignorableWhitespace(const XMLCh* text, XMLSize_t length, bool isCData) override;
+    void docComment(const XMLCh* comment) override;
+    void docPI(const XMLCh* target, const XMLCh* data) override;
+    void startEntityReference(const xercesc::XMLEntityDecl& entity) override;
+    void endEntityReference(const xercesc::XMLEntityDecl& entity) override;
+    xercesc::InputSource* resolveEntity(xercesc::XMLResourceIdentifier* resource) override;
+    void XMLDecl(const XMLCh* version, const XMLCh* encoding, const XMLCh* standalone,
+                 const XMLCh* actualEncoding) override;
+
+private:
+    struct TextHash {
+        using is_transparent = void;
+        std::size_t operator()(std::u16string_view text) const {
+            return std::hash<std::u16string_view>()(text);
+        }
+    };
+
+    const std::string* NarrowName(std::u16string_view name);
+    void AddAttributes(CKTXMLElement& element,
+                       const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes, XMLSize_t count);
+    void EndText();
+    void CountEntityText(XMLSize_t length);
+    void CheckContentModels();
+    [[noreturn]] void Refuse(const std::string& reason);
+
+    CKTXMLElement* m_pCurrent = nullptr;
+    CKTDOMParser* m_pOwner = nullptr;
+    bool m_bSchema = false;
+    unsigned m_nDepth = 0;
+    unsigned m_nOpenEntities = 0;
+    std::uint64_t m_nEntityText = 0;
+    bool m_bSchemaLoaded = false;
+    bool m_bInText = false;
+    std::u16string m_sText;
+    std::u16string m_sQualifiedName;
+    std::vector<const xercesc::XMLAttr*> m_Attributes;
+    std::unordered_map<std::u16string, const std::string*, TextHash, std::equal_to<>> m_Names;
+};
+
+#endif
