@@ -46,10 +46,7 @@ std::string Trimmed(const std::string& value) {
 }  // namespace
 
 CKTTreeReader::CKTTreeReader(xercesc::XMLValidator* validator)
-    : xercesc::XercesDOMParser(validator) {
-    // Declarations of a document type become no nodes; the scanner keeps what it needs of them.
-    getScanner()->setDocTypeHandler(nullptr);
-}
+    : xercesc::XercesDOMParser(validator) {}
 
 CKTTreeReader::~CKTTreeReader() = default;
 
@@ -65,6 +62,9 @@ bool CKTTreeReader::Read(const xercesc::InputSource& source) {
     m_nEntityText = 0;
     m_bInText = false;
     m_bSchemaLoaded = false;
+    // Declarations of a document type become no nodes; the scanner keeps what it needs of them. A
+    // load of a grammar sets the handler anew.
+    getScanner()->setDocTypeHandler(nullptr);
     try {
         parse(source);
     } catch (const PassStopped&) {
