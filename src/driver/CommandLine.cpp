@@ -210,14 +210,10 @@ std::optional<int> ReadCommandLine(int argc, char** argv, Settings& settings) {
 
 int ProcessCmdLineNameValue(int argc, char** argv, int index, const char* option,
                             std::string& value) {
-    const std::wstring argument = my_mbstowcs(argv[index]);
-    const std::wstring name = my_mbstowcs(option);
-    if (argument.size() > name.size()) {
-        value = my_wcstombs(argument.c_str() + name.size());
-        return index;
-    }
-    // An argument that cannot be converted has been reported and has no length to go by.
-    if (argument.size() < name.size()) {
+    // By bytes: the name of an option is plain ASCII, and a file name may be no text of the locale.
+    const std::size_t length = std::strlen(option);
+    if (std::strlen(argv[index]) > length) {
+        value = argv[index] + length;
         return index;
     }
     if (index + 1 < argc) {

@@ -15,7 +15,6 @@
 #include <vector>
 
 #include "support/Console.h"
-#include "support/Text.h"
 
 namespace {
 
@@ -141,16 +140,17 @@ std::string GetTemporaryFilename(const char* extensions) {
     }
 }
 
+// Works on bytes, since the locale need not be able to decode a file name; in no encoding of a
+// locale is a blank or a quotation mark a part of another character.
 std::string ProcessSpaceyFilename(const std::string& name, std::FILE* trace) {
-    std::wstring wide = my_mbstowcs(name.c_str());
-    std::erase(wide, L'"');
+    std::string result = name;
+    std::erase(result, '"');
     if (trace != nullptr) {
-        std::fprintf(trace, "Removed Quotes : %s\n", my_wcstombs(wide.c_str()).c_str());
+        std::fprintf(trace, "Removed Quotes : %s\n", result.c_str());
     }
-    if (wide.find(L' ') != std::wstring::npos) {
-        wide = L'"' + wide + L'"';
+    if (result.find(' ') != std::string::npos) {
+        result = '"' + result + '"';
     }
-    std::string result = my_wcstombs(wide.c_str());
     if (trace != nullptr) {
         std::fprintf(trace, "Final Filename : %s\n", result.c_str());
     }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <climits>
 #include <cstdlib>
 #include <cstring>
@@ -14,8 +13,10 @@
 
 namespace {
 
+/// Folds A to Z alone: what is compared are names and options, the same in every locale.
 int LowerByte(char c) {
-    return std::tolower(static_cast<unsigned char>(c));
+    const int byte = static_cast<unsigned char>(c);
+    return byte >= 'A' && byte <= 'Z' ? byte - 'A' + 'a' : byte;
 }
 
 bool IsAscii(std::u16string_view text) {

@@ -16,8 +16,8 @@ std::wstring my_mbstowcs(const char* text);
 /// Narrows wide text to the current locale's encoding; the mirror image of my_mbstowcs.
 std::string my_wcstombs(const wchar_t* text);
 
-/// Compares case-insensitively, byte by byte with tolower. Returns the difference of the first
-/// differing pair, 0 when the texts are equal.
+/// Compares byte by byte, the letters A to Z without regard to case, whatever the locale. Returns
+/// the difference of the first differing pair, 0 when the texts are equal.
 int my_stricmp(const char* a, const char* b);
 
 /// Like my_stricmp, but compares at most `n` bytes; 0 for `n` = 0.

@@ -67,6 +67,7 @@ TEST_F(TextTest, ConversionsKeepEveryCharacterOfTheLocaleAndReportOthers) {
 TEST_F(TextTest, FileNamesWithBlanksAreQuotedOnce) {
     EXPECT_EQ(ProcessSpaceyFilename("my prog.cbl", nullptr), "\"my prog.cbl\"");
     EXPECT_EQ(ProcessSpaceyFilename("\"a.cbl\"", nullptr), "a.cbl");
+    EXPECT_EQ(ProcessSpaceyFilename("\"\xff \xe9\"", nullptr), "\"\xff \xe9\"");
     std::FILE* trace = std::tmpfile();
     ASSERT_NE(trace, nullptr);
     EXPECT_EQ(ProcessSpaceyFilename("\"a \"\"b\"", trace), "\"a b\"");
