@@ -46,8 +46,10 @@ int StopWith(const char* reason) {
 int main(int argc, char** argv) {
     OccupyStandardStreams();
     std::setlocale(LC_ALL, "");
-    // A reader that went away is an output that cannot be written, not the end of the process.
+    // A reader that went away, or a file grown to its limit, is an output that cannot be written,
+    // not the end of the process.
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
     std::ios::sync_with_stdio(false);
     RaiseStackLimit();
     try {

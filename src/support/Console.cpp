@@ -2,10 +2,11 @@
 
 #include <array>
 #include <cstdlib>
-#include <fstream>
 #include <iostream>
+#include <optional>
 #include <string>
 
+#include "support/LogFile.h"
 #include "support/Text.h"
 
 int m_nErrorCount = 0;
@@ -19,12 +20,14 @@ constexpr std::string_view kBanner =
     "Copyright (c) the dorvex authors. All rights reserved.\n\n";
 
 /// What the console is made of at the moment. `output` is where standard output leads when no
-/// output file borrows it; the saved buffers are set only while they differ from the streams' own.
+/// output file borrows it; the saved buffer is set only while standard output is silenced or leads
+/// into the log, the log's buffers only while the log is open.
 struct ConsoleState {
     std::streambuf* output = std::cout.rdbuf();
     std::streambuf* savedOutput = nullptr;
-    std::streambuf* savedErrors = nullptr;
-    std::ofstream log;
+    CKTLogFile log;
+    std::optional<CKTLogBuffer> logOutput;
+    std::optional<CKTLogBuffer> logErrors;
     bool bannerShown = false;
     bool quiet = false;
 };
@@ -99,17 +102,22 @@ void DisplayHeader() {
 
 void OpenLog() {
     ConsoleState& state = State();
-    state.log.open(kLogName, std::ios::trunc);
-    if (state.log.is_open()) {
-        state.savedOutput = std::cout.rdbuf(state.log.rdbuf());
-        state.savedErrors = std::cerr.rdbuf(state.log.rdbuf());
-        state.output = state.log.rdbuf();
+    const bool opened = state.log.Open(kLogName);
+    if (opened) {
+        state.savedOutput = std::cout.rdbuf();
+        std::cout.rdbuf(&state.logOutput.emplace(state.log, state.savedOutput));
+        std::cerr.rdbuf(&state.logErrors.emplace(state.log, std::cerr.rdbuf()));
+        state.output = std::cout.rdbuf();
     }
     DisplayHeader();
+    if (!opened) {
+        ReportUnwritableOutput(kLogName);
+    }
 }
 
 void SilenceOutput() {
     ConsoleState& state = State();
+    std::cout.flush();
     std::streambuf* current = std::cout.rdbuf(nullptr);
     if (state.savedOutput == nullptr) {
         state.savedOutput = current;
@@ -118,7 +126,7 @@ void SilenceOutput() {
 }
 
 bool IsLogOpen() {
-    return State().savedErrors != nullptr;
+    return State().logErrors.has_value();
 }
 
 bool IsQuiet() {
@@ -127,16 +135,21 @@ bool IsQuiet() {
 
 void RestoreStreams() {
     ConsoleState& state = State();
+    if (IsLogOpen()) {
+        // Before the streams change: what the log does not take goes to the console.
+        state.logOutput->pubsync();
+        state.logErrors->pubsync();
+    }
     if (state.savedOutput != nullptr) {
         std::cout.rdbuf(state.savedOutput);
         state.output = state.savedOutput;
         state.savedOutput = nullptr;
     }
-    if (state.savedErrors != nullptr) {
-        std::cerr.rdbuf(state.savedErrors);
-        state.savedErrors = nullptr;
-        state.log.close();
-        if (state.log.fail()) {
+    if (IsLogOpen()) {
+        std::cerr.rdbuf(state.logErrors->Console());
+        state.logErrors.reset();
+        state.logOutput.reset();
+        if (!state.log.Close()) {
             ReportUnwritableOutput(kLogName);
         }
     }
@@ -154,7 +167,7 @@ int ExitStatus() {
 
 CKTConsoleForErrors::CKTConsoleForErrors() {
     if (IsLogOpen()) {
-        m_pLogBuffer = std::cerr.rdbuf(State().savedErrors);
+        m_pLogBuffer = std::cerr.rdbuf(State().logErrors->Console());
     }
 }
 

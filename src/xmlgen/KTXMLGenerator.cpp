@@ -148,7 +148,10 @@ bool CKTXMLGenerator::GenerateFile(const std::string& dataDictFile, const std::s
                                                       : std::string();
     CKTOutputFile file(name);
     const bool toFile = file.IsOpen();
-    if (name.empty()) {
+    if (!toFile && IsQuiet()) {
+        // What goes to a silenced console is lost.
+        ReportUnwritableOutput(name);
+    } else if (name.empty()) {
         ::WriteLine(std::cerr, {"Invalid filename.  Outputting XML to console:\n"});
     } else if (!toFile) {
         ::WriteLine(std::cerr, {"Unable to open output file ", name,
