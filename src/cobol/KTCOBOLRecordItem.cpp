@@ -5,6 +5,7 @@
 
 #include "cobol/UniqueNames.h"
 #include "support/Console.h"
+#include "support/Progress.h"
 #include "support/Text.h"
 
 template <typename ChildTest>
@@ -136,6 +137,7 @@ bool CKTCOBOLRecordItem::OutputWithNames(const std::string& prefix, bool countIn
         names->MakeUnique(*this);
     }
     OutputFixedFormatCOBOL(BuildLine(prefix, countIn).c_str(), std::cout);
+    ReportItemsWritten(1);
     for (const auto& child : m_Children) {
         child->OutputWithNames(prefix, countIn, names);
     }

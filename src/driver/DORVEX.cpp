@@ -8,6 +8,7 @@
 #include "driver/Runs.h"
 #include "support/Console.h"
 #include "support/Process.h"
+#include "support/Progress.h"
 
 namespace {
 
@@ -51,6 +52,7 @@ int main(int argc, char** argv) {
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
     std::ios::sync_with_stdio(false);
+    StartProgress();
     RaiseStackLimit();
     try {
         return Run(argc, argv);

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "support/LogFile.h"
+#include "support/Progress.h"
 #include "support/Text.h"
 
 int m_nErrorCount = 0;
@@ -70,7 +71,12 @@ std::ostream& operator<<(std::ostream& stream, char* text) {
     if (&stream == &std::cout || &stream == &std::cerr) {
         DisplayHeader();
     }
-    return stream << std::string_view(text);
+    stream << std::string_view(text);
+    if (&stream == &std::cout) {
+        // What it announces may take long.
+        stream.flush();
+    }
+    return stream;
 }
 
 std::ostream& operator<<(std::ostream& stream, const char* text) {
@@ -102,6 +108,7 @@ void DisplayHeader() {
 
 void OpenLog() {
     ConsoleState& state = State();
+    StopProgress();
     const bool opened = state.log.Open(kLogName);
     if (opened) {
         state.savedOutput = std::cout.rdbuf();
@@ -117,6 +124,7 @@ void OpenLog() {
 
 void SilenceOutput() {
     ConsoleState& state = State();
+    StopProgress();
     std::cout.flush();
     std::streambuf* current = std::cout.rdbuf(nullptr);
     if (state.savedOutput == nullptr) {

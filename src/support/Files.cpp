@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "support/Console.h"
+#include "support/Progress.h"
 
 namespace {
 
@@ -48,6 +49,9 @@ bool AskToKeep(const std::string& name) {
         std::cerr << "Would you like to overwrite " << name << "? (y/n) ";
         std::string answer;
         const bool more = ReadAnswer(answer);
+        if (more && ::isatty(STDIN_FILENO) != 0) {
+            ReportLineTyped();
+        }
         console.reset();
         if (!more || answer == "N" || answer == "n") {
             return true;
