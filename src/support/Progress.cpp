@@ -178,6 +178,12 @@ void ReportBytesRead(std::size_t count) {
     }
 }
 
+void RestartBytesRead() {
+    if (Line()) {
+        Line()->RestartBytes();
+    }
+}
+
 void ReportItemsWritten(std::size_t count) {
     if (Line()) {
         Line()->AddItems(count);

@@ -21,6 +21,9 @@ void StopProgress();
 void ReportBytesRead(std::size_t count);
 void ReportItemsWritten(std::size_t count);
 
+/// Counts the bytes from 0 again: an input is read another time.
+void RestartBytesRead();
+
 /// Says that the user has typed a line at the terminal, which ends the line of the question.
 void ReportLineTyped();
 
@@ -44,6 +47,7 @@ public:
 
     void AddBytes(std::size_t count);
     void AddItems(std::size_t count);
+    void RestartBytes() { m_nBytes = m_nBytesToCheck = 0; }
     void EndLine() { m_bLineStart = true; }
     void Wipe();
     void Stop();

@@ -86,8 +86,13 @@ TEST(Progress, ALineIsShownAfterTwoSecondsAndRenewedTwiceASecond) {
         line.AddBytes(20000);
         EXPECT_EQ(terminal.Shown(), Wiped("100000 bytes read, 1100 items written") +
                                         "140000 bytes read, 1100 items written");
+        line.RestartBytes();
+        g_Now += 1s;
+        line.AddBytes(5);
+        EXPECT_EQ(terminal.Shown(), Wiped("140000 bytes read, 1100 items written") +
+                                        "5 bytes read, 1100 items written");
     }
-    EXPECT_EQ(terminal.Shown(), Wiped("140000 bytes read, 1100 items written"));
+    EXPECT_EQ(terminal.Shown(), Wiped("5 bytes read, 1100 items written"));
 }
 
 TEST(Progress, TheLineIsWipedBeforeAnythingElseIsWritten) {
