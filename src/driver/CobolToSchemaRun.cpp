@@ -23,14 +23,9 @@ struct FileNames {
     std::string copybook;
 };
 
-int Stop() {
-    RestoreStreams();
-    return 1;
-}
-
 int StopWithMessage(std::initializer_list<std::string_view> message) {
     WriteLine(std::cout, message);
-    return Stop();
+    return 1;
 }
 
 int StopAfterParsing(CKTDOMParser& parser, const char* what, const std::string& name) {
@@ -199,14 +194,14 @@ int WriteOutputs(CKTDOMParser& parser, const Settings& settings, const FileNames
 
 }  // namespace
 
-int RunCobolToSchema(const Settings& settings) {
+std::optional<int> RunCobolToSchema(const Settings& settings) {
     CKTDOMParser parser;
     if (settings.sourceName.empty()) {
         return StopWithMessage({"Error : Failed to specify COBOL filename"});
     }
     FileNames names;
     if (!ChooseNames(settings, names) || !Compile(settings, names)) {
-        return Stop();
+        return 1;
     }
     if (!parser.ParseFile(names.dictionary, CKTDOMParser::XML_DOCUMENT, false)) {
         return StopAfterParsing(parser, "Failed to create ", names.schema);
@@ -215,6 +210,5 @@ int RunCobolToSchema(const Settings& settings) {
         return 1;
     }
     parser.DisplayErrorSummary();
-    RestoreStreams();
-    return ExitStatus();
+    return {};
 }

@@ -88,11 +88,6 @@ bool HasExtension(const std::string& name, const char* extension) {
     return my_strnicmp(my_strrchr(name.c_str(), "."), extension, kExtensionLength) == 0;
 }
 
-int EndWithStatus(int status) {
-    RestoreStreams();
-    return status;
-}
-
 void ReportFileType(const std::string& name) {
     WriteLine(std::cout, {"Error : Unrecognized file type \"", name, "\""});
 }
@@ -126,7 +121,7 @@ std::optional<int> TakeFileArgument(const std::string& name, Settings& settings)
     } else {
         ReportFileType(name);
         Usage();
-        return EndWithStatus(1);
+        return 1;
     }
     return {};
 }
@@ -142,7 +137,7 @@ std::optional<int> TakeValidationName(Settings& settings) {
         settings.schemaName = settings.firstName;
     } else {
         ReportFileType(settings.firstName);
-        return EndWithStatus(1);
+        return 1;
     }
     return {};
 }
@@ -179,14 +174,14 @@ std::optional<int> ReadCommandLine(int argc, char** argv, Settings& settings) {
         }
         if (my_stricmp(argument, "-?") == 0 || my_stricmp(argument, "-HELP") == 0) {
             Usage();
-            return EndWithStatus(0);
+            return 0;
         }
         const auto option = std::find_if(kOptions.begin(), kOptions.end(), [&](const Option& o) {
             return StartsWith(argument, o.name);
         });
         if (option == kOptions.end()) {
             WriteLine(std::cout, {"Error : Invalid option \"", argument, "\""});
-            return EndWithStatus(1);
+            return 1;
         }
         if (option->value != nullptr) {
             i = ProcessCmdLineNameValue(argc, argv, i, option->name, settings.*(option->value));
@@ -203,7 +198,7 @@ std::optional<int> ReadCommandLine(int argc, char** argv, Settings& settings) {
     }
     if (settings.firstName.empty()) {
         WriteLine(std::cout, {"Error : Source filename not specified"});
-        return EndWithStatus(1);
+        return 1;
     }
     return {};
 }

@@ -1,18 +1,20 @@
 #include <clocale>
 #include <csignal>
-#include <exception>
 #include <iostream>
 #include <optional>
+#include <string>
 
 #include "driver/CommandLine.h"
 #include "driver/Runs.h"
 #include "support/Console.h"
 #include "support/Process.h"
 #include "support/Progress.h"
+#include "xml/Faults.h"
 
 namespace {
 
-int Run(int argc, char** argv) {
+/// Returns the exit status of a run that was stopped, nothing when the counted messages make it.
+std::optional<int> Run(int argc, char** argv) {
     if (argc <= 1) {
         Usage();
         return 0;
@@ -20,7 +22,7 @@ int Run(int argc, char** argv) {
     ScanForLog(argc, argv);
     Settings settings;
     if (const std::optional<int> status = ReadCommandLine(argc, argv, settings)) {
-        return *status;
+        return status;
     }
     DisplayHeader();
     if (settings.validate) {
@@ -32,13 +34,12 @@ int Run(int argc, char** argv) {
     if (settings.schemaSourceGiven) {
         return RunSchemaToCobol(settings);
     }
-    RestoreStreams();
-    return ExitStatus();
+    return {};
 }
 
-int StopWith(const char* reason) {
-    WriteLine(std::cerr, {"Internal Error : ", reason});
-    RestoreStreams();
+/// Ends what an exception has left.
+int StopWith(const std::string& fault) {
+    WriteLine(std::cerr, {"Internal Error : ", fault});
     return 1;
 }
 
@@ -54,12 +55,13 @@ int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
     StartProgress();
     RaiseStackLimit();
+    std::optional<int> status;
     try {
-        return Run(argc, argv);
-    } catch (const std::exception& e) {
-        return StopWith(e.what());
+        status = Run(argc, argv);
     } catch (...) {
-        return StopWith(
-            "Out of memory");  // what the parser library throws then is no std::exception
+        status = StopWith(DescribeFault());
     }
+    // A log that cannot be completed counts as well.
+    RestoreStreams();
+    return status ? *status : ExitStatus();
 }

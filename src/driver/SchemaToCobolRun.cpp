@@ -25,7 +25,6 @@ int StopWithoutNames(const Settings& settings) {
     if (settings.copybookName.empty()) {
         WriteLine(std::cout, {"Error : Failed to specify COBOL Copybook filename"});
     }
-    RestoreStreams();
     return 1;
 }
 
@@ -47,7 +46,7 @@ void WriteCopybook(CKTDOMParser& parser, const Settings& settings, const std::st
 
 }  // namespace
 
-int RunSchemaToCobol(const Settings& settings) {
+std::optional<int> RunSchemaToCobol(const Settings& settings) {
     CKTDOMParser parser;
     const std::string& schemaName = settings.schemaName;
     if (schemaName.empty()) {
@@ -60,12 +59,10 @@ int RunSchemaToCobol(const Settings& settings) {
         std::cout << "\n";
         parser.DisplayErrorSummary();
         WriteLine(std::cout, {"Failed to create ", copybookName});
-        RestoreStreams();
         return 1;
     }
     WriteLine(std::cout, {"No schema errors found, processing XML schema ", schemaName});
     const std::string schemaPath = FullPath(schemaName);
     WriteCopybook(parser, settings, schemaPath, copybookName);
-    RestoreStreams();
-    return ExitStatus();
+    return {};
 }

@@ -26,7 +26,7 @@ void ValidateDocument(CKTDOMParser& parser, const std::string& name) {
 
 }  // namespace
 
-int RunValidation(const Settings& settings) {
+std::optional<int> RunValidation(const Settings& settings) {
     CKTDOMParser parser;
     WriteLine(std::cout,
               {"Performing validation of \"", settings.firstName, "\", ignoring other options"});
@@ -34,12 +34,10 @@ int RunValidation(const Settings& settings) {
         parser.ParseFile(settings.schemaName, CKTDOMParser::XML_SCHEMA, true);
     } else if (settings.instanceName.empty()) {
         WriteLine(std::cout, {"Error : Failed to specify XML Schema filename"});
-        RestoreStreams();
         return 1;
     } else {
         ValidateDocument(parser, settings.instanceName);
     }
     parser.DisplayErrorSummary();
-    RestoreStreams();
-    return ExitStatus();
+    return {};
 }

@@ -1,0 +1,28 @@
+#include "xml/Faults.h"
+
+#include <exception>
+
+#include <xercesc/dom/DOMException.hpp>
+#include <xercesc/sax/SAXException.hpp>
+#include <xercesc/util/OutOfMemoryException.hpp>
+#include <xercesc/util/XMLException.hpp>
+
+#include "support/Text.h"
+
+std::string DescribeFault() {
+    try {
+        throw;
+    } catch (const std::exception& e) {
+        return e.what();
+    } catch (const xercesc::OutOfMemoryException&) {
+        return "Out of memory";
+    } catch (const xercesc::XMLException& e) {
+        return NarrowMessage(e.getMessage());
+    } catch (const xercesc::SAXException& e) {
+        return NarrowMessage(e.getMessage());
+    } catch (const xercesc::DOMException& e) {
+        return NarrowMessage(e.getMessage());
+    } catch (...) {
+        return "Unknown fault";
+    }
+}
