@@ -15,18 +15,17 @@
 #include <vector>
 
 #include "support/Console.h"
+#include "support/Limits.h"
 #include "support/Progress.h"
 
 namespace {
 
-constexpr std::size_t kAnswerSize = 1024;
-constexpr std::streamsize kLongestAnswer = 1 << 20;
 constexpr std::size_t kOutputBufferSize = 65536;
 
 /// Reads one line of at most the answer buffer's size from standard input and drops the rest of a
 /// longer one. Returns false at the end of the input, which a line without end stands for as well.
 bool ReadAnswer(std::string& answer) {
-    std::array<char, kAnswerSize> buffer{};
+    std::array<char, kMaxAnswerSize> buffer{};
     std::cin.getline(buffer.data(), buffer.size());
     answer = buffer.data();
     if (std::cin.eof() && answer.empty()) {
@@ -34,8 +33,8 @@ bool ReadAnswer(std::string& answer) {
     }
     if (std::cin.fail() && !std::cin.bad()) {
         std::cin.clear();
-        std::cin.ignore(kLongestAnswer, '\n');
-        return std::cin.gcount() < kLongestAnswer;
+        std::cin.ignore(kMaxAnswerRest, '\n');
+        return std::cin.gcount() < kMaxAnswerRest;
     }
     return !std::cin.bad();
 }

@@ -1,6 +1,7 @@
 #ifndef DORVEX_SUPPORT_LIMITS_H
 #define DORVEX_SUPPORT_LIMITS_H
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -19,5 +20,14 @@ inline constexpr std::uint64_t kMaxGroupRepetitions = 20'000;
 
 inline const std::string kTooMuchEntityText =
     "entities expand to more than " + std::to_string(kMaxEntityText) + " characters";
+
+/// The longest answer to a question that is looked at, its end included; of a longer one the rest
+/// is passed over, up to the second bound.
+inline constexpr std::size_t kMaxAnswerSize = 1024;
+inline constexpr std::ptrdiff_t kMaxAnswerRest = 1 << 20;
+
+/// What the stack may grow to. The kernel keeps at least 128 MB of addresses free below its first
+/// page.
+inline constexpr std::size_t kMaxStackBytes = 120UL * 1024 * 1024;
 
 #endif
