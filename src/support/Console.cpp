@@ -8,6 +8,7 @@
 
 #include "support/LogFile.h"
 #include "support/Progress.h"
+#include "support/Severity.h"
 #include "support/Text.h"
 
 int m_nErrorCount = 0;
@@ -38,22 +39,21 @@ ConsoleState& State() {
     return state;
 }
 
-struct CountedPrefix {
-    const char* text;
-    int length;
+struct CountedSeverity {
+    std::string_view text;
     int* counter;
 };
 
-constexpr std::array kCountedPrefixes = {
-    CountedPrefix{"Error :", 7, &m_nErrorCount},
-    CountedPrefix{"Internal Error :", 16, &m_nErrorCount},
-    CountedPrefix{"Warning :", 9, &m_nWarningCount},
+constexpr std::array kCountedSeverities = {
+    CountedSeverity{kErrorSeverity, &m_nErrorCount},
+    CountedSeverity{kInternalErrorSeverity, &m_nErrorCount},
+    CountedSeverity{kWarningSeverity, &m_nWarningCount},
 };
 
 void CountMessage(const char* text) {
-    for (const CountedPrefix& prefix : kCountedPrefixes) {
-        if (my_strnicmp(text, prefix.text, prefix.length) == 0) {
-            ++*prefix.counter;
+    for (const CountedSeverity& severity : kCountedSeverities) {
+        if (my_strnicmp(text, severity.text.data(), static_cast<int>(severity.text.size())) == 0) {
+            ++*severity.counter;
             return;
         }
     }
