@@ -17,9 +17,22 @@
 #include <xercesc/util/XMLURL.hpp>
 
 #include "support/FilesRead.h"
+#include "support/Progress.h"
 #include "xml/Paths.h"
 
 namespace {
+
+/// A file's bytes, counted for whoever waits for them.
+class CKTCountedFile : public xercesc::BinFileInputStream {
+public:
+    using BinFileInputStream::BinFileInputStream;
+
+    XMLSize_t readBytes(XMLByte* bytes, const XMLSize_t most) override {
+        const XMLSize_t count = BinFileInputStream::readBytes(bytes, most);
+        ReportBytesRead(count);
+        return count;
+    }
+};
 
 /// The library decodes this one escape in names that are no URL.
 std::u16string WithBlanks(std::u16string_view name) {
@@ -84,7 +97,11 @@ CKTFileSource::CKTFileSource(const std::u16string& systemId, std::string path)
 }
 
 xercesc::BinInputStream* CKTFileSource::makeStream() const {
-    auto stream = std::make_unique<xercesc::BinFileInputStream>(m_sPath.c_str());
+    struct stat status = {};
+    if (::stat(m_sPath.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) {
+        return nullptr;  // a pipe would hold the program up, a directory has nothing to read
+    }
+    auto stream = std::make_unique<CKTCountedFile>(m_sPath.c_str());
     if (!stream->getIsOpen()) {
         return nullptr;
     }

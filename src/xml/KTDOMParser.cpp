@@ -16,6 +16,7 @@
 
 #include "support/Console.h"
 #include "support/Limits.h"
+#include "support/Progress.h"
 #include "support/Text.h"
 #include "xml/InputGuard.h"
 #include "xml/InputSources.h"
@@ -145,6 +146,7 @@ bool CKTDOMParser::CKTLibrary::LoadSchema(const std::string& fileName) {
 /// library's words: on its way to them the library loses memory, and a pipe would hold it up.
 std::unique_ptr<xercesc::InputSource> CKTDOMParser::CKTLibrary::OpenSource(
     const std::string& fileName) {
+    RestartBytesRead();
     std::u16string fault = u"unable to read data from file";
     try {
         auto source = MakeInputSource(nullptr, PathText(fileName).c_str());
