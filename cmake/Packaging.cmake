@@ -9,7 +9,9 @@ set(examples
     catalogue.xsd
     claim-party.cpy
     claims.cbl
+    customer-map.xml
     customer.cpy
+    ktxmlmap.xsd
     order.xml
     order.xsd
     payment-types.xsd
@@ -17,6 +19,8 @@ set(examples
 )
 list(TRANSFORM examples PREPEND examples/)
 install(FILES ${examples} DESTINATION "${CMAKE_INSTALL_DOCDIR}/examples")
+# The schema of mapping files is data: it has a place that does not hang on the documentation.
+install(FILES examples/ktxmlmap.xsd DESTINATION "${CMAKE_INSTALL_DATADIR}/dorvex")
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME dorvex)
