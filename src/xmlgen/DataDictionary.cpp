@@ -6,16 +6,31 @@
 
 namespace {
 
-bool IsContainer(DictionaryKind kind) {
-    switch (kind) {
-        case DictionaryKind::Program:
-        case DictionaryKind::DataItems:
-        case DictionaryKind::FileSection:
-        case DictionaryKind::Fd:
-            return true;
-        default:
-            return false;
+/// Keeps the first item of a program that can be its record, and what has to be passed before it.
+void TakeRecordLevelItem(const CKTXMLElement* item, DictionaryRecord& program) {
+    if (program.record != nullptr) {
+        return;
     }
+    if (IsRedefinition(item) || IsRenaming(item)) {
+        program.passed.push_back(item);
+    } else if (!IsUnnamed(item)) {
+        program.record = item;
+    }
+}
+
+/// The first of the programs with a record; it has passed what those before it hold.
+DictionaryRecord ChooseRecord(const std::vector<DictionaryRecord>& programs) {
+    DictionaryRecord chosen;
+    for (const DictionaryRecord& program : programs) {
+        chosen.hasProgram = chosen.hasProgram || program.hasProgram;
+        chosen.passed.insert(chosen.passed.end(), program.passed.begin(), program.passed.end());
+        if (program.record != nullptr) {
+            chosen.program = program.program;
+            chosen.record = program.record;
+            break;
+        }
+    }
+    return chosen;
 }
 
 }  // namespace
@@ -45,6 +60,11 @@ DictionaryKind DictionaryKindOf(const CKTXMLElement* e) {
     return found == kinds.end() ? DictionaryKind::Unknown : found->second;
 }
 
+bool IsSection(DictionaryKind kind) {
+    return kind == DictionaryKind::DataItems || kind == DictionaryKind::FileSection ||
+           kind == DictionaryKind::Fd;
+}
+
 bool IsDataItem(DictionaryKind kind) {
     return kind == DictionaryKind::Group || IsElementary(kind);
 }
@@ -67,19 +87,23 @@ bool IsCondition(DictionaryKind kind) {
            kind == DictionaryKind::NumericCondition;
 }
 
-// Walks with a stack of its own, because containers may be nested without bound.
+// Walks with a stack of its own, because containers may be nested without bound. A program around
+// another starts first, though its own items may come later: each one collects what is directly its
+// own, and the first to have a record is chosen at the end.
 DictionaryRecord FindDictionaryRecord(const CKTXMLElement* root) {
     struct Place {
         const CKTXMLElement* element;
-        const CKTXMLElement* program;
+        std::size_t program;
     };
-    DictionaryRecord found;
+    constexpr std::size_t kOutside = 0;
     const CKTXMLElement* document = root->getFirstChildElem();
     if (document == nullptr) {
-        return found;
+        return {};
     }
+    std::vector<DictionaryRecord> programs(
+        1);  // in the order of their start tags, behind the outside
     const bool wrapped = DictionaryKindOf(document) != DictionaryKind::Program;
-    std::vector<Place> pending = {{wrapped ? document->getFirstChildElem() : document, nullptr}};
+    std::vector<Place> pending = {{wrapped ? document->getFirstChildElem() : document, kOutside}};
     while (!pending.empty()) {
         const auto [e, program] = pending.back();
         pending.pop_back();
@@ -89,21 +113,15 @@ DictionaryRecord FindDictionaryRecord(const CKTXMLElement* root) {
         pending.push_back({e->getNextSibling(), program});
         const DictionaryKind kind = DictionaryKindOf(e);
         if (kind == DictionaryKind::Program) {
-            found.hasProgram = true;
-            pending.push_back({e->getFirstChildElem(), e});
-        } else if (program != nullptr && IsContainer(kind)) {
+            pending.push_back({e->getFirstChildElem(), programs.size()});
+            programs.push_back({true, e, nullptr, {}});
+        } else if (program != kOutside && IsSection(kind)) {
             pending.push_back({e->getFirstChildElem(), program});
-        } else if (program != nullptr && IsDataItem(kind)) {
-            if (IsRedefinition(e) || IsRenaming(e)) {
-                found.passed.push_back(e);
-            } else if (!IsUnnamed(e)) {
-                found.program = program;
-                found.record = e;
-                return found;
-            }
+        } else if (program != kOutside && IsDataItem(kind)) {
+            TakeRecordLevelItem(e, programs[program]);
         }
     }
-    return found;
+    return ChooseRecord(programs);
 }
 
 // With a stack of its own, because containers may be nested without bound.
@@ -117,7 +135,7 @@ void ForEachMember(const CKTXMLElement* e, const std::function<void(const CKTXML
         }
         pending.back() = child->getNextSibling();
         const DictionaryKind kind = DictionaryKindOf(child);
-        if (IsContainer(kind) && kind != DictionaryKind::Program) {
+        if (IsSection(kind)) {
             pending.push_back(child->getFirstChildElem());
         } else {
             visit(child);

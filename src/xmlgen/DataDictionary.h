@@ -31,20 +31,23 @@ enum class DictionaryKind {
     National = 18,
 };
 
-/// The record that a dictionary describes: the first item, in document order, that stands directly
-/// in the sections of a program, has a name of its own and neither redefines nor renames another.
+/// The record that a dictionary describes: the first item that stands directly in the sections of a
+/// program, has a name of its own and neither redefines nor renames another. Of several programs,
+/// nested or not, the first to start that holds such an item is the one.
 struct DictionaryRecord {
     bool hasProgram = false;
     const CKTXMLElement* program = nullptr;  ///< the program around the record; null without one
     const CKTXMLElement* record = nullptr;
     std::vector<const CKTXMLElement*>
-        passed;  ///< redefining and renaming items that come before it
+        passed;  ///< redefining and renaming items of its and earlier programs before it
 };
 
 /// Classifies by the local part of the element's name, compared exactly.
 DictionaryKind DictionaryKindOf(const CKTXMLElement* e);
 
-/// Say whether a kind is a data item, an elementary one, a constant, a range or a condition-name.
+/// Say whether a kind is a container of items inside a program, a data item, an elementary one, a
+/// constant, a range or a condition-name.
+bool IsSection(DictionaryKind kind);
 bool IsDataItem(DictionaryKind kind);
 bool IsElementary(DictionaryKind kind);
 bool IsConstant(DictionaryKind kind);
