@@ -58,6 +58,29 @@ void ReportRange(const CKTXMLElement* range) {
                           name->getValue(), "\""});
 }
 
+/// A length counts as far as it begins with digits; a sign is none.
+long long ReadLength(std::string_view text) {
+    return text.starts_with('-') || text.starts_with('+') ? 0 : ReadInteger(text);
+}
+
+/// What a literal stands for: the text of one that is whole, from its opening mark to the same mark
+/// at its end and with no single one between; anything else as it is.
+std::string LiteralValue(std::string_view literal) {
+    const char mark = literal.empty() ? '\0' : literal.front();
+    if (literal.size() < 2 || (mark != '"' && mark != '\'') || literal.back() != mark) {
+        return std::string(literal);
+    }
+    std::string text;
+    const std::string_view inner = literal.substr(1, literal.size() - 2);
+    for (std::size_t i = 0; i < inner.size(); ++i) {
+        text += inner[i];
+        if (inner[i] == mark && (++i == inner.size() || inner[i] != mark)) {
+            return std::string(literal);
+        }
+    }
+    return text;
+}
+
 /// Says whether the first value of a condition-name is a range.
 bool BeginsWithRange(const CKTXMLElement* condition) {
     for (const CKTXMLElement* value = condition->getFirstChildElem(); value != nullptr;
@@ -177,7 +200,7 @@ void CKTXMLGenerator::WriteFacets(const CKTXMLElement* item, const std::string& 
     WriteLine(indent + 3, "<simpleType>");
     WriteLine(indent + 6, "<restriction base=\"" + type + "\">");
     if (type == "string") {
-        long long length = ReadInteger(AttributeOf(item, "length"));
+        long long length = ReadLength(AttributeOf(item, "length"));
         if (DictionaryKindOf(item) == DictionaryKind::National) {
             length /= 2;  // a national character takes two bytes
         }
@@ -239,8 +262,10 @@ void CKTXMLGenerator::WriteMappedMembers(const CKTXMLElement* group, unsigned in
     bool begun = false;
     ForEachMember(group, [&](const CKTXMLElement* child) {
         bool isAttribute = false;
-        ApplyExternalMappingFile(child, m_pMapping, nullptr, nullptr, nullptr, &isAttribute,
-                                 nullptr, 0);
+        if (IsDataItem(DictionaryKindOf(child))) {  // no entry stands for a condition-name
+            ApplyExternalMappingFile(child, m_pMapping, nullptr, nullptr, nullptr, &isAttribute,
+                                     nullptr, 0);
+        }
         if (isAttribute) {
             attributes.push_back(child);
             return;
@@ -276,7 +301,7 @@ void CKTXMLGenerator::WriteConstant(const CKTXMLElement* constant, unsigned inde
         WriteLine(indent + 6, "<restriction base=\"" + getXmlType(constant) + "\">");
     }
     m_pMarkup->AddTag("enumeration", indent + 9);
-    m_pMarkup->AddAttribute("value", value->getValue());
+    m_pMarkup->AddAttribute("value", LiteralValue(value->getValue()));
     m_pMarkup->Add("/>\n");
     if (constant == enumeration.last) {
         WriteLine(indent + 6, "</restriction>");
