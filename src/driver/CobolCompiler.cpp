@@ -26,7 +26,7 @@ std::vector<std::string> CompilerArguments(const std::string& directives,
     return words;
 }
 
-/// Replaces the process with the compiler; returns when there is none on the path.
+/// Replaces the process with the compiler; returns after a message when there is none on the path.
 void Execute(std::vector<std::string> words) {
     std::vector<char*> arguments;
     arguments.reserve(words.size() + 1);
@@ -35,6 +35,8 @@ void Execute(std::vector<std::string> words) {
     }
     arguments.push_back(nullptr);
     ::execvp(arguments.front(), arguments.data());
+    WriteLine(std::cout,
+              {"Error : Unable to start the COBOL compiler \"", arguments.front(), "\""});
 }
 
 /// A word as the shell passes it on unchanged.

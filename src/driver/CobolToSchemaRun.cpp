@@ -4,6 +4,7 @@
 #include <iostream>
 #include <memory>
 
+#include "driver/ByProducts.h"
 #include "driver/CobolCompiler.h"
 #include "driver/Runs.h"
 #include "support/Console.h"
@@ -48,6 +49,18 @@ bool IsTaken(const std::string& dictionary) {
            dictionary.find('"') != std::string::npos;
 }
 
+/// Makes the temporary copy that is compiled in the source's place. A source that cannot be read is
+/// the compiler's to complain about. False after a message when there is no room for the copy.
+bool MakeTemporaryCopy(const std::string& source, bool readable, FileNames& names) {
+    const std::string stem = GetTemporaryFilename(".xml .cbl");
+    if (stem.empty()) {
+        return false;
+    }
+    names.dictionary = stem + ".xml";
+    names.temporaryCopy = stem + ".cbl";
+    return CopyFileToFile(source, names.temporaryCopy) || !readable;
+}
+
 /// Splits the source and chooses what is compiled: a copybook is always compiled as a copy of its
 /// own, a program only when the dictionary would overwrite a file of the user's. False after a
 /// message.
@@ -64,15 +77,13 @@ bool ChooseNames(const Settings& settings, FileNames& names) {
         Usage();
         return false;
     }
+    const bool readable = IsReadable(source);
+    if (!readable) {
+        WriteLine(std::cerr, {"Note : Source \"", source, "\" cannot be read"});
+    }
     names.dictionary = names.base + ".xml";
-    if (!program || IsTaken(names.dictionary)) {
-        const std::string stem = GetTemporaryFilename(".xml .cbl");
-        if (stem.empty()) {
-            return false;
-        }
-        names.dictionary = stem + ".xml";
-        names.temporaryCopy = stem + ".cbl";
-        CopyFileToFile(source, names.temporaryCopy);
+    if ((!program || IsTaken(names.dictionary)) && !MakeTemporaryCopy(source, readable, names)) {
+        return false;
     }
     names.schema = settings.schemaName.empty() ? names.base + ".xsd" : settings.schemaName;
     names.copybook =
@@ -106,19 +117,6 @@ bool Compile(const Settings& settings, const FileNames& names) {
     }
     std::cout << "\n";
     return true;
-}
-
-/// Deletes the temporary copy and what the compiler wrote; a file that cannot be deleted stays.
-void DeleteByProducts(const FileNames& names) {
-    std::string stem = names.dictionary;
-    if (!names.temporaryCopy.empty()) {
-        ::unlink(names.temporaryCopy.c_str());
-        stem = names.temporaryCopy;
-    }
-    stem.resize(stem.rfind('.') + 1);
-    for (const char* ending : {"idy", "xml", "int"}) {
-        ::unlink((stem + ending).c_str());
-    }
 }
 
 /// The outputs of one run and the settings that all of them share.
@@ -155,6 +153,7 @@ public:
             mapping.Initialize(root.get(), nullptr);
         }
         m_Generator.setXMLCOBOLExternalMapping(&mapping);
+        m_Generator.ReportIdleMapping(name);
         return true;
     }
 
@@ -171,13 +170,14 @@ private:
 };
 
 /// Writes the outputs of a compiled source. Returns 0, or 1 when the run ends with a message.
-int WriteOutputs(CKTDOMParser& parser, const Settings& settings, const FileNames& names) {
+int WriteOutputs(CKTDOMParser& parser, const Settings& settings, const FileNames& names,
+                 const CKTByProducts& byProducts) {
     const std::unique_ptr<CKTXMLElement> root = parser.getXMLDocument();
     CKTXMLCOBOLExternalMapping mapping;
     CKTXMLGenerator generator;
     generator.setCOBOLDataDictionary(root.get());
     generator.setDOMParser(&parser);
-    DeleteByProducts(names);
+    byProducts.Delete();
     if (!generator.HasRecord()) {
         const char* missing = generator.HasProgram() ? "record" : "program";
         return StopWithMessage({"Error : No ", missing, " found in COBOL data dictionary \"",
@@ -200,13 +200,17 @@ std::optional<int> RunCobolToSchema(const Settings& settings) {
         return StopWithMessage({"Error : Failed to specify COBOL filename"});
     }
     FileNames names;
-    if (!ChooseNames(settings, names) || !Compile(settings, names)) {
+    if (!ChooseNames(settings, names)) {
+        return 1;
+    }
+    const CKTByProducts byProducts(names.dictionary, names.temporaryCopy);
+    if (!Compile(settings, names)) {
         return 1;
     }
     if (!parser.ParseFile(names.dictionary, CKTDOMParser::XML_DOCUMENT, false)) {
         return StopAfterParsing(parser, "Failed to create ", names.schema);
     }
-    if (WriteOutputs(parser, settings, names) != 0) {
+    if (WriteOutputs(parser, settings, names, byProducts) != 0) {
         return 1;
     }
     parser.DisplayErrorSummary();

@@ -1,6 +1,7 @@
 #include "support/Files.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -94,26 +95,38 @@ bool FileExists(const std::string& name, bool prompt) {
     return !prompt || AskToKeep(name);
 }
 
+bool IsReadable(const std::string& name) {
+    // Without opening it, which would let the writer of a pipe believe that its reader has come.
+    struct stat status {};
+    return ::stat(name.c_str(), &status) == 0 && !S_ISDIR(status.st_mode) &&
+           ::access(name.c_str(), R_OK) == 0;
+}
+
 bool CopyFileToFile(const std::string& from, const std::string& to) {
     std::ifstream input(from, std::ios::binary);
-    bool copied = false;
+    std::ofstream output;
     if (input.is_open()) {
-        std::ofstream output(to, std::ios::binary | std::ios::trunc);
-        std::string line;
-        while (output.good() && !input.eof()) {
-            std::getline(input, line);
-            if (!input.eof() && input.fail()) {
-                break;
-            }
-            output << line << '\n';
+        output.open(to, std::ios::binary | std::ios::trunc);
+    }
+    bool const writable = output.is_open();
+    std::string line;
+    while (writable && output.good() && !input.eof()) {
+        std::getline(input, line);
+        if (!input.eof() && input.fail()) {
+            break;
         }
-        output.close();
-        copied = input.eof() && !input.bad() && !output.fail();
+        output << line << '\n';
     }
-    if (!copied) {
+    output.close();
+    if (writable && output.fail()) {
+        ReportUnwritableOutput(to);
+        return false;
+    }
+    if (!writable || !input.eof() || input.bad()) {
         WriteLine(std::cout, {"Error : Unable to copy file contents of ", from, " to ", to});
+        return false;
     }
-    return copied;
+    return true;
 }
 
 std::string GetTemporaryFilename(const char* extensions) {
@@ -137,7 +150,7 @@ std::string GetTemporaryFilename(const char* extensions) {
             return stem;
         }
         if (errno != EEXIST) {
-            WriteLine(std::cout, {"Error : Unable to create temporary file \"", reserved, "\""});
+            ReportUnwritableOutput(reserved);
             return {};
         }
     }

@@ -13,8 +13,12 @@
 /// be overwritten.
 bool FileExists(const std::string& name, bool prompt);
 
+/// Says whether `name` can be opened and read: no directory, and nothing that permissions forbid.
+bool IsReadable(const std::string& name);
+
 /// Copies `from` to `to` line by line, each line ended by a line feed, so that a source that ends
-/// with one gets an empty line more. Returns false after an error line when either file fails.
+/// with one gets an empty line more. Returns false after an error line when either file fails: a
+/// line of its own when `to` cannot be written completely.
 bool CopyFileToFile(const std::string& from, const std::string& to);
 
 /// Returns a bare name in the current directory that is free for every extension of the

@@ -27,12 +27,22 @@ constexpr std::array kFlagFields = {
     FlagField{"xml-attribute", &CKTXMLCOBOLMapping::m_bXMLAttribute},
 };
 
+/// The text of a field without the white space that laying the file out puts around it.
+std::string FieldText(const CKTXMLElement* e) {
+    constexpr const char* kWhiteSpace = " \t\r\n";
+    const std::string& text = e->getValue();
+    const std::size_t begin = text.find_first_not_of(kWhiteSpace);
+    return begin == std::string::npos
+               ? std::string()
+               : text.substr(begin, text.find_last_not_of(kWhiteSpace) - begin + 1);
+}
+
 /// Copies a field element into `entry` (may be null). False when the element is no field.
 bool TakeField(const CKTXMLElement* e, CKTXMLCOBOLMapping* entry) {
     for (const TextField& field : kTextFields) {
         if (e->getName() == field.name) {
             if (entry != nullptr) {
-                entry->*field.text = e->getValue();
+                entry->*field.text = FieldText(e);
             }
             return true;
         }
@@ -40,7 +50,7 @@ bool TakeField(const CKTXMLElement* e, CKTXMLCOBOLMapping* entry) {
     for (const FlagField& field : kFlagFields) {
         if (e->getName() == field.name) {
             if (entry != nullptr) {
-                entry->*field.flag = e->getValue() == "true";
+                entry->*field.flag = FieldText(e) == "true";
             }
             return true;
         }

@@ -6,6 +6,7 @@
 #include "support/Console.h"
 #include "support/Files.h"
 #include "support/Text.h"
+#include "xmlgen/IdleMapping.h"
 
 namespace {
 
@@ -45,6 +46,12 @@ void CKTXMLGenerator::Reset() {
     m_pParser = nullptr;
     m_Found = {};
     m_Enumerations.clear();
+}
+
+void CKTXMLGenerator::ReportIdleMapping(const std::string& mappingFile) const {
+    if (m_pMapping != nullptr && HasRecord()) {
+        ::ReportIdleMapping(mappingFile, *m_pMapping, m_Found.record);
+    }
 }
 
 std::string CKTXMLGenerator::getXmlType(const CKTXMLElement* e) {
@@ -153,6 +160,8 @@ bool CKTXMLGenerator::GenerateFile(const std::string& dataDictFile, const std::s
         ReportUnwritableOutput(name);
     } else if (name.empty()) {
         ::WriteLine(std::cerr, {"Invalid filename.  Outputting XML to console:\n"});
+    } else if (!toFile && IsQuiet()) {
+        ReportUnwritableOutput(name);  // the console would drop it
     } else if (!toFile) {
         ::WriteLine(std::cerr, {"Unable to open output file ", name,
                                 "\nOutputting XML to stdout by default\n"});

@@ -44,6 +44,10 @@ public:
     [[nodiscard]] bool HasProgram() const { return m_Found.hasProgram; }
     [[nodiscard]] bool HasRecord() const { return m_Found.record != nullptr; }
 
+    /// Says on standard error which part of the mapping set, read from the file `mappingFile`, has
+    /// no effect; nothing without a set or a record.
+    void ReportIdleMapping(const std::string& mappingFile) const;
+
     /// The kind code of a dictionary element.
     static int getDataDictElementType(const CKTXMLElement* e) {
         return static_cast<int>(DictionaryKindOf(e));

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include "../support/RedirectedStream.h"
+#include "xmlgen/IdleMapping.h"
 
 namespace {
 
@@ -86,6 +87,33 @@ TEST_F(GeneratorTest, TheServiceDescriptionGoesToTheConsole) {
         }
     }
     EXPECT_EQ(seen, "parameter string; mapping R; field integer; mapping R.A; ");
+}
+
+TEST_F(GeneratorTest, AnEntryIsIdleUnlessItsNameIsThatOfADataItem) {
+    const auto root = Parse(
+        m_parser,
+        "<program name='P'><fileSection><fd name='F'><group name='R'><group><numeric name='A'/>"
+        "</group><group name=''><numeric name='B'/></group><dataItems name='S'><numeric name='C'>"
+        "<numericCondition name='N'/></numeric></dataItems><numeric name='X.Y' redefines='true'/>"
+        "<Group name='Z'/><properties><numeric name='Q'/></properties></group></fd></fileSection>"
+        "</program>");
+    CKTXMLCOBOLExternalMapping mapping;
+    for (const char* name : {"F.R",   "A",    "F.R..B", "F.R.S.C",   "F.R.X.Y", "A",
+                             "F.R.A", "F.R.", "F.R.S",  "F.R.S.C.N", "F.R.Z",   "F.R.properties.Q",
+                             "Q",     "R",    "F",      "",          "P.F.R",   "F.R ",
+                             "f.r",   "R"}) {
+        auto entry = std::make_unique<CKTXMLCOBOLMapping>();
+        entry->m_sCobolName = name;
+        mapping.addXMLCOBOLMapping(std::move(entry));
+    }
+    std::vector<std::string> idle;
+    for (const CKTXMLCOBOLMapping* entry :
+         FindIdleEntries(mapping, FindDictionaryRecord(root.get()).record)) {
+        idle.push_back(entry->m_sCobolName);
+    }
+    EXPECT_EQ(idle, (std::vector<std::string>{"F.R.A", "F.R.", "F.R.S", "F.R.S.C.N", "F.R.Z",
+                                              "F.R.properties.Q", "Q", "R", "F", "", "P.F.R",
+                                              "F.R ", "f.r", "R"}));
 }
 
 }  // namespace

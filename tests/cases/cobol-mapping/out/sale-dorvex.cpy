@@ -1,5 +1,6 @@
         1 SALE identified by "sale" namespace is "urn:sales" count in 
            WS-sale-count.
+         88 SOLD value is 'Y'.
          2 SALE-ID pic X(4) identified by "id" namespace is "urn:sales" 
             is attribute.
          2 NOTE pic X(10) identified by "note" namespace is "urn:b&c" 
