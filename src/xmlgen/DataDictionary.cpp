@@ -124,25 +124,6 @@ DictionaryRecord FindDictionaryRecord(const CKTXMLElement* root) {
     return ChooseRecord(programs);
 }
 
-// With a stack of its own, because containers may be nested without bound.
-void ForEachMember(const CKTXMLElement* e, const std::function<void(const CKTXMLElement*)>& visit) {
-    std::vector<const CKTXMLElement*> pending = {e->getFirstChildElem()};
-    while (!pending.empty()) {
-        const CKTXMLElement* child = pending.back();
-        if (child == nullptr) {
-            pending.pop_back();
-            continue;
-        }
-        pending.back() = child->getNextSibling();
-        const DictionaryKind kind = DictionaryKindOf(child);
-        if (IsSection(kind)) {
-            pending.push_back(child->getFirstChildElem());
-        } else {
-            visit(child);
-        }
-    }
-}
-
 std::string_view AttributeOf(const CKTXMLElement* e, std::string_view name) {
     const CKTXMLAttribute* attribute = e->getAttribute(name);
     return attribute == nullptr ? std::string_view() : attribute->getValue();
@@ -157,6 +138,30 @@ bool IsRenaming(const CKTXMLElement* item) {
 }
 
 bool IsUnnamed(const CKTXMLElement* item) {
-    const std::string name(AttributeOf(item, "name"));
-    return name.empty() || my_stricmp(name.c_str(), "filler") == 0;
+    return IsNoName(AttributeOf(item, "name"));
+}
+
+bool IsNoName(std::string_view name) {
+    constexpr std::string_view kFiller = "filler";
+    return name.empty() || (name.size() == kFiller.size() &&
+                            my_stricmp(std::string(name).c_str(), kFiller.data()) == 0);
+}
+
+std::string_view XmlTypeOf(DictionaryKind kind, const CKTItemClauses& clauses) {
+    if (kind != DictionaryKind::Numeric) {
+        return "string";
+    }
+    const std::string_view usage =
+        clauses.Has(Clause::Usage) ? clauses.Text(Clause::Usage) : "display";
+    if (usage == "comp-1") {
+        return "float";
+    }
+    if (usage == "comp-2") {
+        return "double";
+    }
+    if (usage == "display" || usage == "comp-3" || usage == "comp-4" || usage == "comp-5") {
+        return clauses.Has(Clause::Alignment) && clauses.Text(Clause::Alignment) != "0" ? "decimal"
+                                                                                        : "integer";
+    }
+    return "string";
 }

@@ -1,15 +1,16 @@
 #ifndef DORVEX_XMLGEN_DATADICTIONARY_H
 #define DORVEX_XMLGEN_DATADICTIONARY_H
 
-#include <functional>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "xml/KTXMLElement.h"
+#include "xmlgen/ItemClauses.h"
 
 /// The kinds of elements in a COBOL data dictionary; the numbers are those of the vocabulary.
-enum class DictionaryKind {
+enum class DictionaryKind : std::uint8_t {
     Unknown = 0,
     Program = 1,
     Group = 2,
@@ -58,10 +59,6 @@ bool IsCondition(DictionaryKind kind);
 /// itself or a wrapper around programs.
 DictionaryRecord FindDictionaryRecord(const CKTXMLElement* root);
 
-/// Calls `visit` with each child element of `e` in order; in place of a section container that
-/// stands there, with the children of that one.
-void ForEachMember(const CKTXMLElement* e, const std::function<void(const CKTXMLElement*)>& visit);
-
 /// The value of an attribute; empty when it is absent.
 std::string_view AttributeOf(const CKTXMLElement* e, std::string_view name);
 
@@ -70,5 +67,11 @@ std::string_view AttributeOf(const CKTXMLElement* e, std::string_view name);
 bool IsRedefinition(const CKTXMLElement* item);
 bool IsRenaming(const CKTXMLElement* item);
 bool IsUnnamed(const CKTXMLElement* item);
+
+/// Says whether the text of a `name` is none: empty, or FILLER in any case.
+bool IsNoName(std::string_view name);
+
+/// The schema type of an item of a kind: "string", "integer", "decimal", "float" or "double".
+std::string_view XmlTypeOf(DictionaryKind kind, const CKTItemClauses& clauses);
 
 #endif

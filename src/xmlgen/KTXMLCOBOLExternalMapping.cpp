@@ -106,15 +106,48 @@ CKTXMLCOBOLMapping* CKTXMLCOBOLExternalMapping::addXMLCOBOLMapping(
 
 CKTXMLCOBOLMapping* CKTXMLCOBOLExternalMapping::findMapping(std::string_view cobolName,
                                                             int /*index*/) {
-    if (!m_bIndexed) {
-        m_Index.clear();
-        for (const auto& entry : m_Entries) {
-            m_Index.try_emplace(entry->m_sCobolName, entry.get());
-        }
-        m_bIndexed = true;
-    }
+    BuildIndex();
     const auto found = m_Index.find(cobolName);
     return found == m_Index.end() ? nullptr : found->second;
+}
+
+CKTXMLCOBOLMapping* CKTXMLCOBOLExternalMapping::FindAndMark(const CKTQualifiedName& name) {
+    BuildIndex();
+    const auto found = m_Index.find(name);
+    if (found == m_Index.end()) {
+        return nullptr;
+    }
+    found->second->m_bMatched = true;
+    return found->second;
+}
+
+void CKTXMLCOBOLExternalMapping::ForgetMatches() {
+    for (const auto& entry : m_Entries) {
+        entry->m_bMatched = false;
+    }
+}
+
+std::vector<const CKTXMLCOBOLMapping*> CKTXMLCOBOLExternalMapping::FindUnmatched() {
+    std::vector<const CKTXMLCOBOLMapping*> unmatched;
+    for (const auto& entry : m_Entries) {
+        // Of several entries with one name only the first is ever found.
+        if (!entry->m_bMatched && !findMapping(entry->m_sCobolName, 0)->m_bMatched) {
+            unmatched.push_back(entry.get());
+        }
+    }
+    return unmatched;
+}
+
+void CKTXMLCOBOLExternalMapping::BuildIndex() {
+    if (m_bIndexed) {
+        return;
+    }
+    m_Index.clear();
+    m_Index.reserve(m_Entries.size());
+    for (const auto& entry : m_Entries) {
+        m_Index.try_emplace(entry->m_sCobolName, entry.get());
+    }
+    m_bIndexed = true;
 }
 
 CKTXMLCOBOLMapping* CKTXMLCOBOLExternalMapping::getFirst() const {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "xml/KTXMLElement.h"
+#include "xmlgen/QualifiedName.h"
 
 /// One entry of a mapping file: the XML that stands for a COBOL data item. Texts start empty, flags
 /// false; the links to its neighbours are borrowed.
@@ -24,6 +25,7 @@ public:
     std::string m_sXMLNamespace;  ///< the namespace of the item
     bool m_bXMLAttribute = false;
     bool m_bCobolCountIn = false;
+    bool m_bMatched = false;  ///< set by FindAndMark: some data item has the name
 
 private:
     CKTXMLCOBOLMapping* m_pPrevSibling = nullptr;
@@ -53,6 +55,15 @@ public:
     /// `index` has no meaning yet; callers pass 0.
     CKTXMLCOBOLMapping* findMapping(std::string_view cobolName, int index);
 
+    /// The same for the name of an element; marks the entry as matched.
+    CKTXMLCOBOLMapping* FindAndMark(const CKTQualifiedName& name);
+
+    /// Takes all marks away.
+    void ForgetMatches();
+
+    /// The entries, in file order, for whose name no element was looked up since then.
+    std::vector<const CKTXMLCOBOLMapping*> FindUnmatched();
+
     /// The first entry, or null; and the neighbours of an entry.
     [[nodiscard]] CKTXMLCOBOLMapping* getFirst() const;
     static CKTXMLCOBOLMapping* getNextSibling(const CKTXMLCOBOLMapping* entry) {
@@ -67,9 +78,12 @@ public:
 
 private:
     bool TakeElement(const CKTXMLElement* e, CKTXMLCOBOLMapping*& current);
+    void BuildIndex();
 
     std::vector<std::unique_ptr<CKTXMLCOBOLMapping>> m_Entries;
-    std::unordered_map<std::string_view, CKTXMLCOBOLMapping*> m_Index;
+    std::unordered_map<std::string_view, CKTXMLCOBOLMapping*, CKTQualifiedName::Hash,
+                       CKTQualifiedName::Equal>
+        m_Index;
     bool m_bIndexed = false;
 };
 

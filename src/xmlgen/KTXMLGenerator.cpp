@@ -1,17 +1,22 @@
+// The traversal that all outputs share, and the files that they go to. The view of the record is
+// made once for all outputs; it is made anew when a mapping set comes in between.
+
 #include "xmlgen/KTXMLGenerator.h"
 
+#include <algorithm>
 #include <iostream>
 
-#include "cobol/KTCOBOLRecordItem.h"
 #include "support/Console.h"
 #include "support/Files.h"
 #include "support/Text.h"
-#include "xmlgen/IdleMapping.h"
+#include "xmlgen/CopybookWriter.h"
+#include "xmlgen/MappingWriter.h"
+#include "xmlgen/SchemaWriter.h"
+#include "xmlgen/ServiceWriter.h"
 
 namespace {
 
-// Condition-names and their values nest below the deepest item.
-constexpr int kMaxNesting = CKTCOBOLRecordItem::kMaxLevel + 10;
+constexpr std::size_t kMostIdleEntries = 20;
 
 }  // namespace
 
@@ -31,6 +36,7 @@ void CKTXMLGenerator::setCOBOLDataDictionary(CKTXMLElement* dictionary) {
 void CKTXMLGenerator::setXMLCOBOLExternalMapping(CKTXMLCOBOLExternalMapping* mapping) {
     if (mapping != nullptr) {
         m_pMapping = mapping;
+        m_pView.reset();
     }
 }
 
@@ -45,84 +51,27 @@ void CKTXMLGenerator::Reset() {
     m_pMapping = nullptr;
     m_pParser = nullptr;
     m_Found = {};
-    m_Enumerations.clear();
+    m_pView.reset();
 }
 
-void CKTXMLGenerator::ReportIdleMapping(const std::string& mappingFile) const {
-    if (m_pMapping != nullptr && HasRecord()) {
-        ::ReportIdleMapping(mappingFile, *m_pMapping, m_Found.record);
+void CKTXMLGenerator::ReportIdleMapping(const std::string& mappingFile) {
+    if (m_pMapping == nullptr || !HasRecord()) {
+        return;
     }
-}
-
-std::string CKTXMLGenerator::getXmlType(const CKTXMLElement* e) {
-    if (DictionaryKindOf(e) != DictionaryKind::Numeric) {
-        return "string";
+    if (m_pMapping->getFirst() == nullptr) {
+        WriteLine(std::cerr, {"Note : Mapping file \"", mappingFile, "\" holds no entries"});
+        return;
     }
-    const std::string_view usage =
-        e->getAttribute("usage") == nullptr ? "display" : AttributeOf(e, "usage");
-    if (usage == "comp-1") {
-        return "float";
+    View();  // which matches items and entries
+    const std::vector<const CKTXMLCOBOLMapping*> idle = m_pMapping->FindUnmatched();
+    for (std::size_t i = 0; i < std::min(idle.size(), kMostIdleEntries); ++i) {
+        WriteLine(std::cerr,
+                  {"Note : Mapping entry \"", idle[i]->m_sCobolName, "\" matches no data item"});
     }
-    if (usage == "comp-2") {
-        return "double";
+    if (idle.size() > kMostIdleEntries) {
+        WriteLine(std::cerr, {"Note : ", std::to_string(idle.size() - kMostIdleEntries),
+                              " further mapping entries match no data item"});
     }
-    if (usage == "display" || usage == "comp-3" || usage == "comp-4" || usage == "comp-5") {
-        const CKTXMLAttribute* alignment = e->getAttribute("alignment");
-        return alignment != nullptr && alignment->getValue() != "0" ? "decimal" : "integer";
-    }
-    return "string";
-}
-
-std::string CKTXMLGenerator::getQualifiedNameAttr(const CKTXMLElement* e) {
-    std::vector<std::string_view> names;
-    for (; e != nullptr; e = e->getParent()) {
-        const CKTXMLAttribute* name = e->getAttribute("name");
-        if (name == nullptr) {
-            break;
-        }
-        names.push_back(name->getValue());
-    }
-    std::string qualified;
-    for (auto name = names.rbegin(); name != names.rend(); ++name) {
-        qualified += name == names.rbegin() ? "" : ".";
-        qualified += *name;
-    }
-    return qualified;
-}
-
-bool CKTXMLGenerator::ApplyExternalMappingFile(const CKTXMLElement* item,
-                                               CKTXMLCOBOLExternalMapping* mapping,
-                                               std::string* xmlName, std::string* xmlType,
-                                               std::string* xmlNamespace, bool* isAttribute,
-                                               bool* countIn, int index) const {
-    if (item == nullptr || mapping == nullptr || AttributeOf(item, "name").empty()) {
-        return false;
-    }
-    const CKTXMLCOBOLMapping* entry = mapping->findMapping(getQualifiedNameAttr(item), index);
-    if (entry == nullptr) {
-        return true;
-    }
-    const auto copy = [](auto* target, const auto& value) {
-        if (target != nullptr) {
-            *target = value;
-        }
-    };
-    copy(xmlName, entry->m_sXMLName);
-    copy(xmlType, entry->m_sXMLType);
-    copy(xmlNamespace, entry->m_sXMLNamespace);
-    copy(isAttribute, entry->m_bXMLAttribute);
-    copy(m_bCountIn ? countIn : nullptr, entry->m_bCobolCountIn);
-    return true;
-}
-
-CKTXMLGenerator::XmlItem CKTXMLGenerator::Describe(const CKTXMLElement* item) const {
-    XmlItem xml;
-    xml.name = IsUnnamed(item) ? std::string_view() : AttributeOf(item, "name");
-    xml.type = getXmlType(item);
-    xml.countIn = m_bCountIn;
-    ApplyExternalMappingFile(item, m_pMapping, &xml.name, &xml.type, &xml.uri, &xml.isAttribute,
-                             &xml.countIn, 0);
-    return xml;
 }
 
 bool CKTXMLGenerator::CanWrite() const {
@@ -135,7 +84,7 @@ bool CKTXMLGenerator::CanWrite() const {
         fault = "Invalid XML Formatter";
     }
     if (fault != nullptr) {
-        ::WriteLine(std::cerr, {fault});
+        WriteLine(std::cerr, {fault});
     }
     return fault == nullptr;
 }
@@ -146,8 +95,6 @@ bool CKTXMLGenerator::GenerateFile(const std::string& dataDictFile, const std::s
     if (!CanWrite()) {
         return false;
     }
-    m_sDataDictFile = dataDictFile;
-    m_sPrefix = text;
     m_bCountIn = countIn;
     const std::string name = type == EXTERNAL_MAPPING ? mappingFile
                              : type == XML_SCHEMA     ? schemaFile
@@ -159,17 +106,15 @@ bool CKTXMLGenerator::GenerateFile(const std::string& dataDictFile, const std::s
         // What goes to a silenced console is lost.
         ReportUnwritableOutput(name);
     } else if (name.empty()) {
-        ::WriteLine(std::cerr, {"Invalid filename.  Outputting XML to console:\n"});
-    } else if (!toFile && IsQuiet()) {
-        ReportUnwritableOutput(name);  // the console would drop it
+        WriteLine(std::cerr, {"Invalid filename.  Outputting XML to console:\n"});
     } else if (!toFile) {
-        ::WriteLine(std::cerr, {"Unable to open output file ", name,
-                                "\nOutputting XML to stdout by default\n"});
+        WriteLine(std::cerr,
+                  {"Unable to open output file ", name, "\nOutputting XML to stdout by default\n"});
     }
-    m_pMarkup = std::make_unique<CKTMarkup>(*m_pDictionary->getXMLFormatter(),
-                                            *m_pDictionary->getFormatTarget());
-    WriteOutput(type);
-    m_pMarkup.reset();
+    {
+        CKTMarkup markup(*m_pDictionary->getXMLFormatter(), *m_pDictionary->getFormatTarget());
+        WriteOutput(type, markup, dataDictFile, text);
+    }
     if (!file.Close()) {
         ReportUnwritableOutput(name);
         return false;
@@ -177,70 +122,63 @@ bool CKTXMLGenerator::GenerateFile(const std::string& dataDictFile, const std::s
     return toFile;
 }
 
-void CKTXMLGenerator::WriteOutput(FILE_TYPE type) {
-    if (type != ENHANCED_COBOL) {
-        WriteLine(0, "<?xml version=\"1.0\" encoding=\"" +
-                         NarrowText(m_pDictionary->getXMLFormatter()->getEncodingName()) + "\"?>");
+const CKTDictionaryView& CKTXMLGenerator::View() {
+    if (m_pView == nullptr) {
+        m_pView = std::make_unique<CKTDictionaryView>(m_Found, m_pMapping);
     }
+    return *m_pView;
+}
+
+void CKTXMLGenerator::WriteOutput(FILE_TYPE type, CKTMarkup& markup,
+                                  const std::string& dataDictFile, const std::string& prefix) {
+    if (type != ENHANCED_COBOL) {
+        markup.Add("<?xml version=\"1.0\" encoding=\"" +
+                   NarrowText(m_pDictionary->getXMLFormatter()->getEncodingName()) + "\"?>\n");
+    }
+    const CKTDictionaryView& view = View();
+    std::unique_ptr<CKTDictionaryWriter> writer;
     switch (type) {
         case INTERNAL_MAPPING:
-            getXMLFromDataDict(m_Found.program, 0, 0,
-                               &CKTXMLGenerator::OutputInternalMappingFileElement);
+            writer = std::make_unique<CKTServiceWriter>(markup, dataDictFile);
             break;
         case EXTERNAL_MAPPING:
-            getXMLFromDataDict(m_Found.program, 0, 0,
-                               &CKTXMLGenerator::OutputExternalMappingFileElement);
+            writer = std::make_unique<CKTMappingWriter>(markup, m_bCountIn);
             break;
         case XML_SCHEMA:
-            getXMLFromDataDict(m_Found.program, 0, 0, &CKTXMLGenerator::OutputXMLSchemaFileElement);
+            writer = std::make_unique<CKTSchemaWriter>(
+                markup, m_pMapping != nullptr,
+                view.IsEmpty() ? std::string_view() : view[CKTDictionaryView::kRecord].uri);
             break;
         case ENHANCED_COBOL:
-            for (const CKTXMLElement* passed : m_Found.passed) {
-                getEnhancedCOBOLFromDataDict(passed, 1);
-            }
-            getEnhancedCOBOLFromDataDict(m_Found.record, 1);
+            writer = std::make_unique<CKTCopybookWriter>(m_Found.passed, prefix, m_bCountIn);
             break;
         default:
-            ::WriteLine(std::cerr, {"Invalid File Type Selection for XML Output"});
-            break;
+            WriteLine(std::cerr, {"Invalid File Type Selection for XML Output"});
+            return;
+    }
+    if (!view.IsEmpty()) {
+        Traverse(view, CKTDictionaryView::kProgram, *writer);
     }
 }
 
-/// Visits `e` at `level` (that of a record is 1): the writer begins it, its children follow, the
-/// writer ends it. Of a program only its record is visited. Returns whether the children were.
-bool CKTXMLGenerator::getXMLFromDataDict(const CKTXMLElement* e, unsigned indent, int level,
-                                         Writer writer) {
-    if (e == nullptr || level > kMaxNesting) {
-        return false;
+/// Shows the item at `index` and what is below it to `writer`. The recursion is as deep as the
+/// view, which is bounded.
+void CKTXMLGenerator::Traverse(const CKTDictionaryView& view, std::uint32_t index,
+                               CKTDictionaryWriter& writer) {
+    const DictionaryItem& item = view[index];
+    if (!writer.Begin(item)) {
+        return;
     }
-    const DictionaryKind kind = DictionaryKindOf(e);
-    TraversalFlags flags;
-    unsigned childIndent = indent;
-    if (IsCondition(kind)) {
-        flags.descend = true;
-    } else if (e == m_Found.program || IsConstant(kind) || IsRange(kind) ||
-               (IsDataItem(kind) && level <= CKTCOBOLRecordItem::kMaxLevel)) {
-        childIndent = (this->*writer)(e, indent, level, flags);
-    }
-    if (e->getFirstChildElem() != nullptr) {
-        if (flags.open) {
-            m_pMarkup->Add(">\n");
-        }
-        if (flags.descend && e == m_Found.program) {
-            getXMLFromDataDict(m_Found.record, childIndent, level + 1, writer);
-        } else if (flags.descend) {
-            ForEachMember(e, [&](const CKTXMLElement* child) {
-                getXMLFromDataDict(child, childIndent, level + 1, writer);
-            });
+    const bool split = item.kind == DictionaryKind::Group && writer.PutsAttributesLast();
+    for (std::uint32_t member = index + 1; member < item.end; member = view[member].end) {
+        if (!split || !view[member].isAttribute) {
+            Traverse(view, member, writer);
         }
     }
-    if (flags.open) {
-        (this->*writer)(e, indent, level, flags);
+    for (std::uint32_t member = index + 1; split && member < item.end; member = view[member].end) {
+        if (view[member].isAttribute) {
+            Traverse(view, member, writer);
+        }
     }
-    return flags.descend;
-}
-
-void CKTXMLGenerator::WriteLine(unsigned indent, std::string_view text) {
-    m_pMarkup->Add(text, indent);
-    m_pMarkup->Add("\n");
+    writer.End(item);
 }

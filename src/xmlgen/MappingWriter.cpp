@@ -1,126 +1,61 @@
-// The mapping file, one entry for each item of the record, and the older service description.
+// The mapping file is flat: whatever the depth of an item, its entry stands directly in the root.
 
-#include "xml/KTDOMFormatTarget.h"
-#include "xmlgen/KTXMLGenerator.h"
+#include "xmlgen/MappingWriter.h"
+
+#include "cobol/KTCOBOLRecordItem.h"
+#include "xmlgen/Vocabularies.h"
 
 namespace {
 
-constexpr const char* kMappingNamespace = "http://www.ostrel.com/schema/xml/v1.0/ktxmlmap.xsd";
-constexpr const char* kServiceNamespace = "http://www.ostrel.com/schema/xml/v1.0/ktxml.xsd";
-constexpr const char* kInstanceNamespace = "http://www.w3.org/2001/XMLSchema-instance";
-
-void AddRootAttributes(CKTMarkup& markup, const std::string& uri, const char* fileName) {
-    markup.AddAttribute("xmlns", uri);
-    markup.AddAttribute("xmlns:xsi", kInstanceNamespace);
-    markup.AddAttribute("xsi:schemaLocation", uri + " " + fileName);
-}
+constexpr unsigned kEntryIndent = 3;
 
 }  // namespace
 
-unsigned CKTXMLGenerator::OutputExternalMappingFileElement(const CKTXMLElement* item,
-                                                           unsigned indent, int /*level*/,
-                                                           TraversalFlags& flags) {
-    const DictionaryKind kind = DictionaryKindOf(item);
-    if (kind == DictionaryKind::Program) {
-        return WriteMappingRoot(indent, flags);
+bool CKTMappingWriter::Begin(const DictionaryItem& item) {
+    if (item.kind == DictionaryKind::Program) {
+        m_Markup.AddTag("xml-cobol-mapping-file", 0);
+        AddRootAttributes(m_Markup, kMappingNamespace, "ktxmlmap.xsd");
+        m_Markup.Add(">\n");
+        return true;
     }
-    if (IsRedefinition(item)) {
-        return indent;
+    if (IsCondition(item.kind)) {
+        return true;
     }
-    if (IsDataItem(kind)) {
-        flags.descend = true;
-        if (!AttributeOf(item, "name").empty()) {
-            WriteMappingEntry(item, indent);
-        }
+    if (!IsDataItem(item.kind) || item.isRedefinition ||
+        item.level > CKTCOBOLRecordItem::kMaxLevel) {
+        return false;
     }
-    return indent;
+    const CKTItemClauses clauses(item.element);
+    if (!clauses.Text(Clause::Name).empty()) {
+        WriteEntry(item, clauses);
+    }
+    return true;
 }
 
-unsigned CKTXMLGenerator::WriteMappingRoot(unsigned indent, TraversalFlags& flags) {
-    if (flags.open) {
-        WriteLine(indent, "</xml-cobol-mapping-file>");
-        return indent;
+void CKTMappingWriter::End(const DictionaryItem& item) {
+    if (item.kind == DictionaryKind::Program) {
+        m_Markup.Add("</xml-cobol-mapping-file>\n");
     }
-    m_pMarkup->AddTag("xml-cobol-mapping-file", indent);
-    AddRootAttributes(*m_pMarkup, kMappingNamespace, "ktxmlmap.xsd");
-    flags.open = true;
-    flags.descend = true;
-    return indent + 3;
 }
 
-void CKTXMLGenerator::WriteMappingEntry(const CKTXMLElement* item, unsigned indent) {
-    const bool group = DictionaryKindOf(item) == DictionaryKind::Group;
-    const std::string name(IsUnnamed(item) ? std::string_view() : AttributeOf(item, "name"));
-    WriteLine(indent, "<xml-cobol-mapping>");
-    WriteTextElement(indent + 3, "cobol-name", getQualifiedNameAttr(item));
-    WriteTextElement(indent + 3, "cobol-count-in", m_bCountIn ? "true" : "false");
-    WriteTextElement(indent + 3, "xml-name", name);
-    WriteTextElement(indent + 3, "xml-type", group ? "group" : getXmlType(item));
-    WriteTextElement(indent + 3, "xml-attribute", "false");
-    WriteTextElement(indent + 3, "xml-namespace", "");
-    WriteLine(indent, "</xml-cobol-mapping>");
+void CKTMappingWriter::WriteEntry(const DictionaryItem& item, const CKTItemClauses& clauses) {
+    const std::string& name = *clauses.Find(Clause::Name);
+    const bool group = item.kind == DictionaryKind::Group;
+    m_Markup.Add("<xml-cobol-mapping>\n", kEntryIndent);
+    WriteField("cobol-name", CKTQualifiedName(item.element).Text());
+    WriteField("cobol-count-in", m_bCountIn ? "true" : "false");
+    WriteField("xml-name", IsNoName(name) ? std::string() : name);
+    WriteField("xml-type", std::string(group ? "group" : XmlTypeOf(item.kind, clauses)));
+    WriteField("xml-attribute", "false");
+    WriteField("xml-namespace", "");
+    m_Markup.Add("</xml-cobol-mapping>\n", kEntryIndent);
 }
 
-void CKTXMLGenerator::WriteTextElement(unsigned indent, const char* name, const std::string& text) {
-    m_pMarkup->AddTag(name, indent);
-    m_pMarkup->Add(">");
-    m_pMarkup->AddContent(text);
-    m_pMarkup->Add("</");
-    m_pMarkup->Add(name);
-    m_pMarkup->Add(">\n");
-}
-
-/// The service description holds a `parameter` for the record and a `field` for each item below it,
-/// and binds both to COBOL by a `mapping` with the qualified name.
-unsigned CKTXMLGenerator::OutputInternalMappingFileElement(const CKTXMLElement* item,
-                                                           unsigned indent, int level,
-                                                           TraversalFlags& flags) {
-    const DictionaryKind kind = DictionaryKindOf(item);
-    if (kind == DictionaryKind::Program) {
-        return WriteServiceRoot(item, indent, flags);
-    }
-    if (IsRedefinition(item)) {
-        return indent;
-    }
-    if (!IsDataItem(kind)) {
-        return indent;
-    }
-    flags.descend = true;
-    if (IsUnnamed(item)) {
-        return indent;
-    }
-    const XmlItem xml = Describe(item);
-    m_pMarkup->AddTag(level == 1 ? "parameter" : "field", indent);
-    m_pMarkup->AddAttribute("name", xml.name);
-    m_pMarkup->AddAttribute("dataType", getXmlType(item));
-    m_pMarkup->AddAttribute("namespace", xml.uri);
-    m_pMarkup->AddAttribute("isAttribute", xml.isAttribute ? "true" : "false");
-    m_pMarkup->Add("/>\n");
-    WriteLine(indent, "<mappings>");
-    m_pMarkup->AddTag("mapping", indent + 3);
-    m_pMarkup->AddAttribute("item", getQualifiedNameAttr(item));
-    m_pMarkup->Add("/>\n");
-    WriteLine(indent, "</mappings>");
-    return indent;
-}
-
-unsigned CKTXMLGenerator::WriteServiceRoot(const CKTXMLElement* program, unsigned indent,
-                                           TraversalFlags& flags) {
-    if (flags.open) {
-        WriteLine(indent + 3, "</parameterTypeDefs>");
-        WriteLine(indent, "</service>");
-        return indent;
-    }
-    const std::string name(AttributeOf(program, "name"));
-    m_pMarkup->AddTag("service", indent);
-    AddRootAttributes(*m_pMarkup, kServiceNamespace, "ktxml.xsd");
-    m_pMarkup->AddAttribute("name", name);
-    m_pMarkup->AddAttribute("programName", name);
-    m_pMarkup->AddAttribute("dataDictFilename", m_sDataDictFile);
-    m_pMarkup->AddAttribute("implementation", "xml");
-    m_pMarkup->Add(">\n");
-    m_pMarkup->AddTag("parameterTypeDefs", indent + 3);
-    flags.open = true;
-    flags.descend = true;
-    return indent + 6;
+void CKTMappingWriter::WriteField(const char* name, const std::string& text) {
+    m_Markup.AddTag(name, 2 * kEntryIndent);
+    m_Markup.Add(">");
+    m_Markup.AddContent(text);
+    m_Markup.Add("</");
+    m_Markup.Add(name);
+    m_Markup.Add(">\n");
 }

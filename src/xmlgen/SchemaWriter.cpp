@@ -1,43 +1,18 @@
-// The schema of a record: groups become complex types, elementary items simple types with facets,
-// the values of condition-names enumerations.
+// Each item that is begun remembers how it is to be ended, since the facets and the sequence that
+// were opened decide it. The lines of tags, some of them odd, are what users' scripts know.
+
+#include "xmlgen/SchemaWriter.h"
 
 #include <iostream>
 
+#include "cobol/KTCOBOLRecordItem.h"
 #include "support/Console.h"
 #include "support/Text.h"
-#include "xml/KTDOMFormatTarget.h"
-#include "xmlgen/KTXMLGenerator.h"
+#include "xmlgen/Vocabularies.h"
 
 namespace {
 
-constexpr const char* kSchemaNamespace = "http://www.w3.org/2001/XMLSchema";
-
-bool HasChildren(const CKTXMLElement* item) {
-    return item->getFirstChildElem() != nullptr;
-}
-
-std::string EndTag(bool isAttribute) {
-    return isAttribute ? "</attribute>" : "</element>";
-}
-
-/// The facets that an item of a type gets.
-enum class FacetForm { None, Length, Digits };
-
-FacetForm FacetFormOf(const CKTXMLElement* item, const std::string& type) {
-    if (DictionaryKindOf(item) == DictionaryKind::NumericEdited) {
-        return FacetForm::None;
-    }
-    if (type == "string") {
-        const std::string usage(AttributeOf(item, "usage"));
-        const bool computational = my_strnicmp(usage.c_str(), "comp", 4) == 0;
-        return !computational && item->getAttribute("length") != nullptr ? FacetForm::Length
-                                                                         : FacetForm::None;
-    }
-    const bool number = type == "decimal" || type == "integer";
-    return number && item->getAttribute("digits") != nullptr ? FacetForm::Digits : FacetForm::None;
-}
-
-void ReportForeignNamespace(bool group, const std::string& uri) {
+void ReportForeignNamespace(bool group, std::string_view uri) {
     WriteLine(std::cerr, {"Warning : The generated schema requires an <import> ",
                           group ? "for reference of" : "statement for the reference of",
                           " definitions in the ", uri, " namespace."});
@@ -95,198 +70,196 @@ bool BeginsWithRange(const CKTXMLElement* condition) {
 
 }  // namespace
 
-unsigned CKTXMLGenerator::OutputXMLSchemaFileElement(const CKTXMLElement* item, unsigned indent,
-                                                     int level, TraversalFlags& flags) {
-    const DictionaryKind kind = DictionaryKindOf(item);
-    if (kind == DictionaryKind::Program) {
-        return WriteSchemaRoot(indent, flags);
+bool CKTSchemaWriter::Begin(const DictionaryItem& item) {
+    if (item.kind == DictionaryKind::Program) {
+        BeginSchema();
+        return true;
     }
-    if (IsRedefinition(item)) {
-        return indent;
+    const unsigned indent = PlaceFor(item);
+    if (IsConstant(item.kind)) {
+        if (!IsRedefinition(item.element)) {
+            WriteConstant(item.element, indent);
+        }
+        return false;
     }
-    if (kind == DictionaryKind::Group) {
-        return WriteGroup(item, indent, level, flags);
+    if (IsRange(item.kind)) {
+        if (!IsRedefinition(item.element)) {
+            ReportRange(item.element);
+        }
+        return false;
     }
-    if (IsElementary(kind)) {
-        return WriteElementary(item, indent, flags);
+    if (IsCondition(item.kind)) {
+        m_Open.push_back({indent, indent});
+        return true;
     }
-    if (IsConstant(kind)) {
-        WriteConstant(item, indent);
-    } else if (IsRange(kind)) {
-        ReportRange(item);
+    if (!IsDataItem(item.kind) || item.isRedefinition || item.name.empty() ||
+        item.level > CKTCOBOLRecordItem::kMaxLevel) {
+        return false;
+    }
+    if (item.kind == DictionaryKind::Group) {
+        BeginGroup(item, indent);
+    } else {
+        BeginElementary(item, indent);
+    }
+    return true;
+}
+
+void CKTSchemaWriter::End(const DictionaryItem& item) {
+    const OpenItem open = m_Open.back();
+    m_Open.pop_back();
+    if (item.kind == DictionaryKind::Program) {
+        m_Markup.Add("</schema>\n");
+    } else if (item.kind == DictionaryKind::Group) {
+        EndGroup(item, open);
+    } else if (IsElementary(item.kind)) {
+        EndElementary(item, open);
+    }
+}
+
+/// The indent of a member of the item that is open. The first attribute closes the sequence.
+unsigned CKTSchemaWriter::PlaceFor(const DictionaryItem& item) {
+    OpenItem& open = m_Open.back();
+    if (!item.isAttribute || open.memberIndent == open.indent) {
+        return open.memberIndent;
+    }
+    const unsigned indent = open.indent + 6;
+    if (open.inSequence) {
+        m_Markup.Add("</sequence>\n", indent);
+        open.inSequence = false;
     }
     return indent;
 }
 
-unsigned CKTXMLGenerator::WriteSchemaRoot(unsigned indent, TraversalFlags& flags) {
-    if (flags.open) {
-        WriteLine(indent, "</schema>");
-        return indent;
-    }
-    m_pMarkup->AddTag("schema", indent);
-    m_pMarkup->AddAttribute("xmlns", kSchemaNamespace);
-    m_pMarkup->AddAttribute("elementFormDefault", "qualified");
-    m_sTargetNamespace.clear();
-    ApplyExternalMappingFile(m_Found.record, m_pMapping, nullptr, nullptr, &m_sTargetNamespace,
-                             nullptr, nullptr, 0);
+void CKTSchemaWriter::BeginSchema() {
+    m_Markup.AddTag("schema", 0);
+    m_Markup.AddAttribute("xmlns", kSchemaNamespace);
+    m_Markup.AddAttribute("elementFormDefault", "qualified");
     if (!m_sTargetNamespace.empty()) {
-        m_pMarkup->AddAttribute("targetNamespace", m_sTargetNamespace);
+        m_Markup.AddAttribute("targetNamespace", std::string(m_sTargetNamespace));
     }
-    flags.open = true;
-    flags.descend = true;
-    return indent + 3;
+    m_Markup.Add(">\n");
+    m_Open.push_back({3, 3});
 }
 
 /// Begins the tag of an item: its name, a namespace that is not the schema's, and the bounds of an
 /// OCCURS clause.
-void CKTXMLGenerator::BeginItem(const CKTXMLElement* item, const XmlItem& xml, unsigned indent) {
-    const bool group = DictionaryKindOf(item) == DictionaryKind::Group;
-    m_pMarkup->AddTag(xml.isAttribute ? "attribute" : "element", indent);
-    m_pMarkup->AddAttribute("name", xml.name);
-    if (!xml.uri.empty() && xml.uri != m_sTargetNamespace) {
-        m_pMarkup->AddAttribute("xmlns", xml.uri);
-        ReportForeignNamespace(group, xml.uri);
+void CKTSchemaWriter::BeginTag(const DictionaryItem& item, const CKTItemClauses& clauses,
+                               unsigned indent) {
+    const bool group = item.kind == DictionaryKind::Group;
+    m_Markup.AddTag(item.isAttribute ? "attribute" : "element", indent);
+    m_Markup.AddAttribute("name", std::string(item.name));
+    if (!item.uri.empty() && item.uri != m_sTargetNamespace) {
+        m_Markup.AddAttribute("xmlns", std::string(item.uri));
+        ReportForeignNamespace(group, item.uri);
     }
-    const CKTXMLAttribute* minimum = item->getAttribute("minOccurs");
-    const CKTXMLAttribute* maximum = item->getAttribute("maxOccurs");
-    if (const CKTXMLAttribute* shown = minimum != nullptr ? minimum : maximum) {
-        m_pMarkup->AddAttribute("minOccurs", shown->getValue());
+    const std::string* minimum = clauses.Find(Clause::MinOccurs);
+    const std::string* maximum = clauses.Find(Clause::MaxOccurs);
+    if (const std::string* shown = minimum != nullptr ? minimum : maximum) {
+        m_Markup.AddAttribute("minOccurs", *shown);
     }
-    const bool inGroup =
-        item->isParent() && DictionaryKindOf(item->getParent()) == DictionaryKind::Group;
     if (maximum != nullptr) {
-        m_pMarkup->AddAttribute("maxOccurs", maximum->getValue());
-    } else if (group && inGroup) {
+        m_Markup.AddAttribute("maxOccurs", *maximum);
+    } else if (group && item.element->isParent() &&
+               DictionaryKindOf(item.element->getParent()) == DictionaryKind::Group) {
         // Every subordinate group that does not repeat is unbounded, on purpose.
-        m_pMarkup->AddAttribute("maxOccurs", "unbounded");
+        m_Markup.AddAttribute("maxOccurs", "unbounded");
     }
 }
 
-unsigned CKTXMLGenerator::WriteElementary(const CKTXMLElement* item, unsigned indent,
-                                          TraversalFlags& flags) {
-    const XmlItem xml = Describe(item);
-    if (xml.name.empty()) {
-        return indent;
+void CKTSchemaWriter::BeginGroup(const DictionaryItem& item, unsigned indent) {
+    BeginTag(item, CKTItemClauses(item.element), indent);
+    // Without a mapping set a group has a sequence even for members that the view does not show.
+    const bool sequence = item.hasChildren && (!m_bMapped || item.hasElements);
+    m_Open.push_back({indent, indent + 9, FacetForm::None, sequence});
+    if (item.hasChildren) {
+        m_Markup.Add(">\n");
+        m_Markup.Add("<complexType>\n", indent + 3);
     }
-    const bool facets = FacetFormOf(item, xml.type) != FacetForm::None;
-    if (flags.open) {
-        if (facets) {
-            WriteLine(indent + 6, "</restriction>");
-            WriteLine(indent + 3, "</simpleType>");
-        }
-        if (facets || HasChildren(item)) {
-            WriteLine(indent, EndTag(xml.isAttribute));
-        } else {
-            m_pMarkup->Add("/>\n");
-        }
-        return indent;
+    if (sequence) {
+        m_Markup.Add("<sequence>\n", indent + 6);
     }
-    BeginItem(item, xml, indent);
-    if (facets) {
-        WriteFacets(item, xml.type, indent);
-    } else if (!HasChildren(item)) {
-        m_pMarkup->AddAttribute("type", xml.type);
-    }
-    flags.open = true;
-    flags.descend = true;
-    return indent;
 }
 
-/// Ends the item's tag and begins its anonymous type. After a length the traversal ends the line of
-/// an item with children; after digits it has a line of its own.
-void CKTXMLGenerator::WriteFacets(const CKTXMLElement* item, const std::string& type,
-                                  unsigned indent) {
-    m_pMarkup->Add(">\n");
-    WriteLine(indent + 3, "<simpleType>");
-    WriteLine(indent + 6, "<restriction base=\"" + type + "\">");
-    if (type == "string") {
-        long long length = ReadLength(AttributeOf(item, "length"));
-        if (DictionaryKindOf(item) == DictionaryKind::National) {
-            length /= 2;  // a national character takes two bytes
-        }
-        m_pMarkup->AddTag("maxLength", indent + 9);
-        m_pMarkup->AddAttribute("value", std::to_string(length));
-        m_pMarkup->Add(HasChildren(item) ? "/" : "/>\n");
+void CKTSchemaWriter::EndGroup(const DictionaryItem& item, const OpenItem& open) {
+    if (!item.hasChildren) {
+        m_Markup.Add("/>\n");
         return;
     }
-    m_pMarkup->AddTag("totalDigits", indent + 9);
-    m_pMarkup->AddAttribute("value", item->getAttribute("digits")->getValue());
-    m_pMarkup->Add("/>\n");
-    const CKTXMLAttribute* alignment = item->getAttribute("alignment");
-    if (type == "decimal" && alignment != nullptr) {
-        m_pMarkup->AddTag("fractionDigits", indent + 9);
-        m_pMarkup->AddAttribute("value", alignment->getValue());
-        m_pMarkup->Add("/>\n");
+    if (open.inSequence) {
+        m_Markup.Add("</sequence>\n", open.indent + 6);
+    }
+    m_Markup.Add("</complexType>\n", open.indent + 3);
+    WriteEndTag(item, open.indent);
+}
+
+void CKTSchemaWriter::BeginElementary(const DictionaryItem& item, unsigned indent) {
+    const CKTItemClauses clauses(item.element);
+    const FacetForm facets = FacetsOf(item, clauses);
+    BeginTag(item, clauses, indent);
+    m_Open.push_back({indent, indent, facets});
+    if (facets != FacetForm::None) {
+        WriteFacets(item, clauses, facets, indent);
+    } else if (!item.hasChildren) {
+        m_Markup.AddAttribute("type", std::string(item.type));
+    }
+    if (item.hasChildren) {
+        m_Markup.Add(">\n");
     }
 }
 
-unsigned CKTXMLGenerator::WriteGroup(const CKTXMLElement* item, unsigned indent, int level,
-                                     TraversalFlags& flags) {
-    const XmlItem xml = Describe(item);
-    if (xml.name.empty()) {
-        return indent;
+void CKTSchemaWriter::EndElementary(const DictionaryItem& item, const OpenItem& open) {
+    if (open.facets != FacetForm::None) {
+        m_Markup.Add("</restriction>\n", open.indent + 6);
+        m_Markup.Add("</simpleType>\n", open.indent + 3);
     }
-    if (flags.open) {
-        if (!HasChildren(item)) {
-            m_pMarkup->Add("/>\n");
-            return indent;
-        }
-        WriteLine(indent + 6, "</sequence>");
-        WriteLine(indent + 3, "</complexType>");
-        WriteLine(indent, EndTag(xml.isAttribute));
-        return indent;
-    }
-    BeginItem(item, xml, indent);
-    flags.open = true;
-    flags.descend = true;
-    if (!HasChildren(item)) {
-        return indent;
-    }
-    m_pMarkup->Add(">\n");
-    WriteLine(indent + 3, "<complexType>");
-    if (m_pMapping == nullptr) {
-        m_pMarkup->AddTag("sequence", indent + 6);
-        return indent + 9;
-    }
-    WriteMappedMembers(item, indent, level);
-    WriteLine(indent + 3, "</complexType>");
-    WriteLine(indent, EndTag(xml.isAttribute));
-    flags = {};
-    return indent;
-}
-
-/// Writes the members that are elements inside a sequence and those that the mapping makes
-/// attributes after it, as a complex type wants them.
-void CKTXMLGenerator::WriteMappedMembers(const CKTXMLElement* group, unsigned indent, int level) {
-    std::vector<const CKTXMLElement*> attributes;
-    bool begun = false;
-    ForEachMember(group, [&](const CKTXMLElement* child) {
-        bool isAttribute = false;
-        if (IsDataItem(DictionaryKindOf(child))) {  // no entry stands for a condition-name
-            ApplyExternalMappingFile(child, m_pMapping, nullptr, nullptr, nullptr, &isAttribute,
-                                     nullptr, 0);
-        }
-        if (isAttribute) {
-            attributes.push_back(child);
-            return;
-        }
-        if (!begun) {
-            WriteLine(indent + 6, "<sequence>");
-            begun = true;
-        }
-        getXMLFromDataDict(child, indent + 9, level + 1,
-                           &CKTXMLGenerator::OutputXMLSchemaFileElement);
-    });
-    if (begun) {
-        WriteLine(indent + 6, "</sequence>");
-    }
-    for (const CKTXMLElement* child : attributes) {
-        getXMLFromDataDict(child, indent + 6, level + 1,
-                           &CKTXMLGenerator::OutputXMLSchemaFileElement);
+    if (open.facets != FacetForm::None || item.hasChildren) {
+        WriteEndTag(item, open.indent);
+    } else {
+        m_Markup.Add("/>\n");
     }
 }
 
-void CKTXMLGenerator::WriteConstant(const CKTXMLElement* constant, unsigned indent) {
+CKTSchemaWriter::FacetForm CKTSchemaWriter::FacetsOf(const DictionaryItem& item,
+                                                     const CKTItemClauses& clauses) {
+    if (item.kind == DictionaryKind::NumericEdited) {
+        return FacetForm::None;
+    }
+    if (item.type == "string") {
+        const std::string* usage = clauses.Find(Clause::Usage);
+        const bool computational = usage != nullptr && my_strnicmp(usage->c_str(), "comp", 4) == 0;
+        return !computational && clauses.Has(Clause::Length) ? FacetForm::Length : FacetForm::None;
+    }
+    const bool number = item.type == "decimal" || item.type == "integer";
+    return number && clauses.Has(Clause::Digits) ? FacetForm::Digits : FacetForm::None;
+}
+
+/// Ends the item's tag and begins its anonymous type. The line of a length is left open when the
+/// item has children; that of digits is not, so the end of the tag has a line of its own.
+void CKTSchemaWriter::WriteFacets(const DictionaryItem& item, const CKTItemClauses& clauses,
+                                  FacetForm form, unsigned indent) {
+    m_Markup.Add(">\n");
+    WriteRestriction(item.type, indent);
+    if (form == FacetForm::Length) {
+        long long length = ReadLength(clauses.Text(Clause::Length));
+        if (item.kind == DictionaryKind::National) {
+            length /= 2;  // a national character takes two bytes
+        }
+        m_Markup.AddTag("maxLength", indent + 9);
+        m_Markup.AddAttribute("value", std::to_string(length));
+        m_Markup.Add(item.hasChildren ? "/" : "/>\n");
+        return;
+    }
+    m_Markup.AddTag("totalDigits", indent + 9);
+    m_Markup.AddAttribute("value", *clauses.Find(Clause::Digits));
+    m_Markup.Add("/>\n");
+    if (item.type == "decimal" && clauses.Has(Clause::Alignment)) {
+        m_Markup.AddTag("fractionDigits", indent + 9);
+        m_Markup.AddAttribute("value", *clauses.Find(Clause::Alignment));
+        m_Markup.Add("/>\n");
+    }
+}
+
+void CKTSchemaWriter::WriteConstant(const CKTXMLElement* constant, unsigned indent) {
     const CKTXMLElement* condition = constant->getParent();
     const CKTXMLAttribute* value = constant->getAttribute("value");
     if (value == nullptr || !IsCondition(DictionaryKindOf(condition))) {
@@ -297,24 +270,38 @@ void CKTXMLGenerator::WriteConstant(const CKTXMLElement* constant, unsigned inde
         return;
     }
     if (constant == enumeration.first) {
-        WriteLine(indent + 3, "<simpleType>");
-        WriteLine(indent + 6, "<restriction base=\"" + getXmlType(constant) + "\">");
+        WriteRestriction("string", indent);
     }
-    m_pMarkup->AddTag("enumeration", indent + 9);
-    m_pMarkup->AddAttribute("value", LiteralValue(value->getValue()));
-    m_pMarkup->Add("/>\n");
+    m_Markup.AddTag("enumeration", indent + 9);
+    m_Markup.AddAttribute("value", LiteralValue(value->getValue()));
+    m_Markup.Add("/>\n");
     if (constant == enumeration.last) {
-        WriteLine(indent + 6, "</restriction>");
-        WriteLine(indent + 3, "</simpleType>");
+        m_Markup.Add("</restriction>\n", indent + 6);
+        m_Markup.Add("</simpleType>\n", indent + 3);
     }
 }
 
-const CKTXMLGenerator::Enumeration& CKTXMLGenerator::EnumerationOf(const CKTXMLElement* item) {
+void CKTSchemaWriter::WriteRestriction(std::string_view base, unsigned indent) {
+    m_Markup.Add("<simpleType>\n", indent + 3);
+    m_Markup.Add("<restriction base=\"", indent + 6);
+    m_Markup.Add(base);
+    m_Markup.Add("\">\n");
+}
+
+void CKTSchemaWriter::WriteEndTag(const DictionaryItem& item, unsigned indent) {
+    m_Markup.Add(item.isAttribute ? "</attribute>\n" : "</element>\n", indent);
+}
+
+const CKTSchemaWriter::Enumeration& CKTSchemaWriter::EnumerationOf(const CKTXMLElement* item) {
     const auto [entry, isNew] = m_Enumerations.try_emplace(item);
-    Enumeration& enumeration = entry->second;
-    if (!isNew) {
-        return enumeration;
+    if (isNew) {
+        entry->second = FindEnumeration(item);
     }
+    return entry->second;
+}
+
+CKTSchemaWriter::Enumeration CKTSchemaWriter::FindEnumeration(const CKTXMLElement* item) {
+    Enumeration enumeration;
     for (const CKTXMLElement* condition = item->getFirstChildElem(); condition != nullptr;
          condition = condition->getNextSibling()) {
         if (!IsCondition(DictionaryKindOf(condition))) {

@@ -12,7 +12,6 @@
 #include <gtest/gtest.h>
 
 #include "../support/RedirectedStream.h"
-#include "xmlgen/IdleMapping.h"
 
 namespace {
 
@@ -107,8 +106,8 @@ TEST_F(GeneratorTest, AnEntryIsIdleUnlessItsNameIsThatOfADataItem) {
         mapping.addXMLCOBOLMapping(std::move(entry));
     }
     std::vector<std::string> idle;
-    for (const CKTXMLCOBOLMapping* entry :
-         FindIdleEntries(mapping, FindDictionaryRecord(root.get()).record)) {
+    const CKTDictionaryView view(FindDictionaryRecord(root.get()), &mapping);
+    for (const CKTXMLCOBOLMapping* entry : mapping.FindUnmatched()) {
         idle.push_back(entry->m_sCobolName);
     }
     EXPECT_EQ(idle, (std::vector<std::string>{"F.R.A", "F.R.", "F.R.S", "F.R.S.C.N", "F.R.Z",

@@ -1,0 +1,201 @@
+// An entry is built in one line, clause by clause, and laid out in columns when it is complete.
+
+#include "xmlgen/CopybookWriter.h"
+
+#include <array>
+#include <iostream>
+#include <sstream>
+
+#include "cobol/KTCOBOLRecordItem.h"
+#include "support/Console.h"
+
+namespace {
+
+struct FixedClause {
+    Clause clause;
+    std::string_view value;
+    std::string_view text;
+};
+
+constexpr std::array kFixedClauses = {
+    FixedClause{Clause::Sign, "li", " sign is leading"},
+    FixedClause{Clause::Sign, "ls", " sign is leading separate"},
+    FixedClause{Clause::Sign, "ts", " sign is trailing separate"},
+    FixedClause{Clause::Justified, "right", " justified right"},
+    FixedClause{Clause::BlankWhenZero, "true", " blank when zero"},
+};
+
+void ReportRedefinition(const CKTItemClauses& clauses) {
+    WriteLine(
+        std::cerr,
+        {"Warning : The redefines clause is not supported by this version of the COBOL runtime. "
+         "The element \"",
+         clauses.Text(Clause::Name),
+         "\" and it's child data items will not be converted by DORVEX."});
+}
+
+void ReportRenaming(const CKTItemClauses& clauses) {
+    std::istringstream words{std::string(clauses.Text(Clause::Renames))};
+    std::string first;
+    std::string second;
+    const bool range =
+        (words >> first >> second) || clauses.Has(Clause::Through) || clauses.Has(Clause::To);
+    WriteLine(std::cerr, {"Warning : This version of DORVEX does not support the RENAMES clause",
+                          range ? " for ranges" : ""});
+}
+
+/// Reports an item that redefines or renames another; false for any other.
+bool ReportLeftOut(const CKTItemClauses& clauses) {
+    if (clauses.Text(Clause::Redefines) == "true") {
+        ReportRedefinition(clauses);
+        return true;
+    }
+    if (clauses.Has(Clause::Renames)) {
+        ReportRenaming(clauses);
+        return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+bool CKTCopybookWriter::Begin(const DictionaryItem& item) {
+    if (item.kind == DictionaryKind::Program) {
+        for (const CKTXMLElement* passed : m_Passed) {
+            ReportLeftOut(CKTItemClauses(passed));
+        }
+        return true;
+    }
+    if (IsCondition(item.kind)) {
+        const CKTItemClauses clauses(item.element);
+        BeginLine(clauses, item.level, "88");
+        AppendValues(item, clauses);
+        EndLine();
+        return false;
+    }
+    return IsDataItem(item.kind) && BeginDataItem(item);
+}
+
+void CKTCopybookWriter::End(const DictionaryItem& /*item*/) {}
+
+bool CKTCopybookWriter::BeginDataItem(const DictionaryItem& item) {
+    const CKTItemClauses clauses(item.element);
+    if (ReportLeftOut(clauses)) {
+        return false;
+    }
+    if (item.level > CKTCOBOLRecordItem::kMaxLevel) {
+        WriteLine(std::cerr,
+                  {"Warning : Data item \"", clauses.Text(Clause::Name),
+                   "\" is nested deeper than COBOL level 49.  Item will not be converted."});
+        return false;
+    }
+    BeginLine(clauses, item.level, std::to_string(item.level));
+    if (clauses.Has(Clause::Picture)) {
+        m_sLine += " pic ";
+        m_sLine += clauses.Text(Clause::Picture);
+    }
+    AppendUsage(item.kind, clauses);
+    AppendOccurs(clauses);
+    for (const FixedClause& fixed : kFixedClauses) {
+        if (clauses.Text(fixed.clause) == fixed.value) {
+            m_sLine += fixed.text;
+        }
+    }
+    AppendXmlClauses(item);
+    EndLine();
+    return true;
+}
+
+void CKTCopybookWriter::BeginLine(const CKTItemClauses& clauses, int level,
+                                  const std::string& number) {
+    const std::string_view name = clauses.Text(Clause::Name);
+    m_sLine.assign(static_cast<std::size_t>(level) + 7, ' ');
+    m_sLine += number;
+    m_sLine += ' ';
+    m_sLine += name.empty() ? "FILLER" : name;
+}
+
+void CKTCopybookWriter::AppendUsage(DictionaryKind kind, const CKTItemClauses& clauses) {
+    if (kind == DictionaryKind::National) {
+        m_sLine += " usage is national";
+    } else if (IsElementary(kind) && clauses.Has(Clause::Usage) &&
+               clauses.Text(Clause::Usage) != "display") {
+        m_sLine += " usage is ";
+        m_sLine += clauses.Text(Clause::Usage);
+    }
+}
+
+void CKTCopybookWriter::AppendOccurs(const CKTItemClauses& clauses) {
+    const std::string_view maximum = clauses.Text(Clause::MaxOccurs);
+    if (!clauses.Has(Clause::MaxOccurs) || maximum == "1") {
+        return;
+    }
+    m_sLine += " occurs ";
+    if (clauses.Has(Clause::MinOccurs) && clauses.Text(Clause::MinOccurs) != maximum) {
+        m_sLine += clauses.Text(Clause::MinOccurs);
+        m_sLine += " to ";
+    }
+    m_sLine += maximum;
+    m_sLine += " times";
+    if (clauses.Has(Clause::Odo)) {
+        m_sLine += " depending on ";
+        m_sLine += clauses.Text(Clause::Odo);
+    }
+}
+
+void CKTCopybookWriter::AppendXmlClauses(const DictionaryItem& item) {
+    if (item.name.empty()) {
+        return;
+    }
+    m_sLine += " identified by \"";
+    m_sLine += item.name;
+    m_sLine += '"';
+    if (!item.uri.empty()) {
+        m_sLine += " namespace is \"";
+        m_sLine += item.uri;
+        m_sLine += '"';
+    }
+    if (item.isAttribute) {
+        m_sLine += " is attribute";
+    }
+    if (m_bCountIn && item.countIn) {
+        m_sLine += " count in ";
+        m_sLine += m_sPrefix;
+        m_sLine += item.name;
+        m_sLine += "-count";
+    }
+}
+
+/// Appends the values of a condition-name: those below it or, without any, its own.
+void CKTCopybookWriter::AppendValues(const DictionaryItem& condition,
+                                     const CKTItemClauses& clauses) {
+    std::string values;
+    bool own = true;
+    for (const CKTXMLElement* value = condition.element->getFirstChildElem(); value != nullptr;
+         value = value->getNextSibling()) {
+        const DictionaryKind kind = DictionaryKindOf(value);
+        own = own && !IsRange(kind) && !IsConstant(kind);
+        if (IsRange(kind)) {
+            values += " ";
+            values += AttributeOf(value, "from");
+            values += " through ";
+            values += AttributeOf(value, "to");
+        } else if (IsConstant(kind) && value->getAttribute("value") != nullptr) {
+            values += " ";
+            values += AttributeOf(value, "value");
+        }
+    }
+    if (own && clauses.Has(Clause::Value)) {
+        values += " ";
+        values += clauses.Text(Clause::Value);
+    }
+    if (!values.empty()) {
+        m_sLine += " value is";
+        m_sLine += values;
+    }
+}
+
+void CKTCopybookWriter::EndLine() {
+    m_sLine += '.';
+    CKTCOBOLRecordItem::OutputFixedFormatCOBOL(m_sLine.c_str(), std::cout);
+}
