@@ -1,3 +1,7 @@
+// The compiler runs in a child of its own, or, with the log, in a shell below the child whose
+// output is relayed. A child that found no compiler, or has relayed one, goes on as if it were the
+// parent and ends as a failed compile.
+
 #include "driver/CobolCompiler.h"
 
 #include <sys/wait.h>

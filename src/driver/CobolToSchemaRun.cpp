@@ -1,4 +1,6 @@
-#include <unistd.h>
+// The steps of a run from COBOL to schema, in order: choose the names, have the compiler write the
+// dictionary, read it, clean up, and write mapping file, schema and copybook. Each step that fails
+// says so itself, and the run ends.
 
 #include <filesystem>
 #include <iostream>
@@ -176,7 +178,6 @@ int WriteOutputs(CKTDOMParser& parser, const Settings& settings, const FileNames
     CKTXMLCOBOLExternalMapping mapping;
     CKTXMLGenerator generator;
     generator.setCOBOLDataDictionary(root.get());
-    generator.setDOMParser(&parser);
     byProducts.Delete();
     if (!generator.HasRecord()) {
         const char* missing = generator.HasProgram() ? "record" : "program";

@@ -24,12 +24,22 @@ public:
     void End(const DictionaryItem& item) override;
 
 private:
+    // The steps of an entry, in the order of its clauses. All but the first add to m_sLine.
+
+    /// Writes the entry of a data item, or reports why there is none; then false.
     bool BeginDataItem(const DictionaryItem& item);
+
+    /// Starts the line: indentation by level, level number, data name or FILLER.
     void BeginLine(const CKTItemClauses& clauses, int level, const std::string& number);
+
     void AppendOccurs(const CKTItemClauses& clauses);
     void AppendUsage(DictionaryKind kind, const CKTItemClauses& clauses);
+
+    /// Binds the item to its XML; nothing for one without an XML name.
     void AppendXmlClauses(const DictionaryItem& item);
     void AppendValues(const DictionaryItem& condition, const CKTItemClauses& clauses);
+
+    /// Ends the entry with its period and lays it out.
     void EndLine();
 
     const std::vector<const CKTXMLElement*>& m_Passed;

@@ -1,3 +1,6 @@
+// The vocabulary of the compiler's data dictionary, and the choice of the record. Elements of
+// unknown names are passed over everywhere.
+
 #include "xmlgen/DataDictionary.h"
 
 #include <unordered_map>

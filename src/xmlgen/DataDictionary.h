@@ -43,7 +43,7 @@ struct DictionaryRecord {
         passed;  ///< redefining and renaming items of its and earlier programs before it
 };
 
-/// Classifies by the local part of the element's name, compared exactly.
+/// Classifies by the local part, the prefix left off, of the element's name, compared exactly.
 DictionaryKind DictionaryKindOf(const CKTXMLElement* e);
 
 /// Say whether a kind is a container of items inside a program, a data item, an elementary one, a
@@ -59,7 +59,8 @@ bool IsCondition(DictionaryKind kind);
 /// itself or a wrapper around programs.
 DictionaryRecord FindDictionaryRecord(const CKTXMLElement* root);
 
-/// The value of an attribute; empty when it is absent.
+/// The value of an attribute; empty when it is absent. For single looks: who needs several clauses
+/// of an item takes CKTItemClauses.
 std::string_view AttributeOf(const CKTXMLElement* e, std::string_view name);
 
 /// Say whether an item redefines another, renames another, or has no name of its own: none at all,

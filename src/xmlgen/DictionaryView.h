@@ -61,10 +61,15 @@ private:
         bool endsOwner;  ///< false: they stand in a section
     };
 
+    /// Describes the record and all below it.
     void Walk(const CKTXMLElement* record);
+
+    /// Takes one element and puts its members on the stack.
     void Enter(const CKTXMLElement* e, const Siblings& place);
     std::uint32_t Add(const CKTXMLElement* e, DictionaryKind kind, const CKTQualifiedName& name,
                       int level);
+
+    /// Fills in what a data item is in XML, from its clauses or its mapping entry.
     void Describe(DictionaryItem& item, const CKTItemClauses& clauses,
                   const CKTQualifiedName& qualified) const;
     [[nodiscard]] CKTQualifiedName NameBelow(const Siblings& place, const CKTXMLElement* e) const;

@@ -11,23 +11,23 @@
 /// The attributes of dictionary elements that the outputs read: the COBOL clauses of an item.
 enum class Clause : std::uint8_t {
     Name,
-    Usage,
+    Usage,  ///< display without it
     Picture,
-    Length,
-    Digits,
-    Alignment,
-    Sign,
+    Length,     ///< bytes of a text
+    Digits,     ///< all digits of a number
+    Alignment,  ///< digits behind the decimal point
+    Sign,       ///< li, ls, ts: leading, leading separate, trailing separate
     Justified,
     BlankWhenZero,
     MinOccurs,
     MaxOccurs,
-    Odo,
+    Odo,  ///< the object of OCCURS DEPENDING ON
     Redefines,
-    Renames,
-    Value,
-    From,
+    Renames,  ///< there for a level-66 item, whatever it says
+    Value,    ///< of a constant or a condition-name
+    From,     ///< the ends of a range
     To,
-    Through,
+    Through,  ///< the end of a renamed range
 };
 
 /// The clauses of one element, taken from its attributes in one pass. Texts are borrowed from the

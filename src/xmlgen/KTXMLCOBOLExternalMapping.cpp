@@ -1,61 +1,71 @@
+// Entries are kept as the file has them and found through an index by name, which is made when it
+// is first asked for. It gives the first of several entries with one name.
+
 #include "xmlgen/KTXMLCOBOLExternalMapping.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
 namespace {
 
-struct TextField {
-    std::string_view name;
-    std::string CKTXMLCOBOLMapping::*text;
+/// The elements of a mapping file.
+enum class MappingElement {
+    File,
+    Entry,
+    CobolName,
+    XmlName,
+    XmlType,
+    XmlNamespace,
+    XmlAttribute,
+    CobolCountIn,
+    Unknown,
 };
 
-struct FlagField {
-    std::string_view name;
-    bool CKTXMLCOBOLMapping::*flag;
+/// In the order of MappingElement.
+constexpr std::array<std::string_view, 8> kElementNames = {
+    "xml-cobol-mapping-file", "xml-cobol-mapping", "cobol-name",     "xml-name", "xml-type",
+    "xml-namespace",          "xml-attribute",     "cobol-count-in",
 };
+static_assert(kElementNames.size() == static_cast<std::size_t>(MappingElement::Unknown));
 
-constexpr std::array kTextFields = {
-    TextField{"cobol-name", &CKTXMLCOBOLMapping::m_sCobolName},
-    TextField{"xml-name", &CKTXMLCOBOLMapping::m_sXMLName},
-    TextField{"xml-type", &CKTXMLCOBOLMapping::m_sXMLType},
-    TextField{"xml-namespace", &CKTXMLCOBOLMapping::m_sXMLNamespace},
-};
-
-constexpr std::array kFlagFields = {
-    FlagField{"cobol-count-in", &CKTXMLCOBOLMapping::m_bCobolCountIn},
-    FlagField{"xml-attribute", &CKTXMLCOBOLMapping::m_bXMLAttribute},
-};
-
-/// The text of a field without the white space that laying the file out puts around it.
-std::string FieldText(const CKTXMLElement* e) {
-    constexpr const char* kWhiteSpace = " \t\r\n";
-    const std::string& text = e->getValue();
-    const std::size_t begin = text.find_first_not_of(kWhiteSpace);
-    return begin == std::string::npos
-               ? std::string()
-               : text.substr(begin, text.find_last_not_of(kWhiteSpace) - begin + 1);
+MappingElement MappingElementOf(const CKTXMLElement* e) {
+    const auto* const name = std::find(kElementNames.begin(), kElementNames.end(), e->getName());
+    return static_cast<MappingElement>(name - kElementNames.begin());
 }
 
-/// Copies a field element into `entry` (may be null). False when the element is no field.
-bool TakeField(const CKTXMLElement* e, CKTXMLCOBOLMapping* entry) {
-    for (const TextField& field : kTextFields) {
-        if (e->getName() == field.name) {
-            if (entry != nullptr) {
-                entry->*field.text = FieldText(e);
-            }
-            return true;
-        }
+/// The text of a field without the white space that laying the file out puts around it.
+std::string_view FieldText(const CKTXMLElement* e) {
+    constexpr const char* kWhiteSpace = " \t\r\n";
+    std::string_view text = e->getValue();
+    text.remove_prefix(std::min(text.find_first_not_of(kWhiteSpace), text.size()));
+    return text.substr(0, text.find_last_not_of(kWhiteSpace) + 1);
+}
+
+/// Sets the field of `entry` that an element of the kind `field` with `text` stands for.
+void SetField(CKTXMLCOBOLMapping& entry, MappingElement field, std::string_view text) {
+    switch (field) {
+        case MappingElement::CobolName:
+            entry.m_sCobolName = text;
+            break;
+        case MappingElement::XmlName:
+            entry.m_sXMLName = text;
+            break;
+        case MappingElement::XmlType:
+            entry.m_sXMLType = text;
+            break;
+        case MappingElement::XmlNamespace:
+            entry.m_sXMLNamespace = text;
+            break;
+        case MappingElement::XmlAttribute:
+            entry.m_bXMLAttribute = text == "true";
+            break;
+        case MappingElement::CobolCountIn:
+            entry.m_bCobolCountIn = text == "true";
+            break;
+        default:
+            break;
     }
-    for (const FlagField& field : kFlagFields) {
-        if (e->getName() == field.name) {
-            if (entry != nullptr) {
-                entry->*field.flag = FieldText(e) == "true";
-            }
-            return true;
-        }
-    }
-    return false;
 }
 
 }  // namespace
@@ -82,15 +92,14 @@ bool CKTXMLCOBOLExternalMapping::Initialize(const CKTXMLElement* e, CKTXMLCOBOLM
 }
 
 bool CKTXMLCOBOLExternalMapping::TakeElement(const CKTXMLElement* e, CKTXMLCOBOLMapping*& current) {
-    if (e->getName() == "xml-cobol-mapping-file") {
-        return true;
-    }
-    if (e->getName() == "xml-cobol-mapping") {
+    const MappingElement kind = MappingElementOf(e);
+    if (kind == MappingElement::Entry) {
         current = addXMLCOBOLMapping(std::make_unique<CKTXMLCOBOLMapping>());
-        return true;
+    } else if (current != nullptr) {
+        m_bIndexed = false;
+        SetField(*current, kind, FieldText(e));
     }
-    m_bIndexed = false;
-    return TakeField(e, current);
+    return kind != MappingElement::Unknown;
 }
 
 CKTXMLCOBOLMapping* CKTXMLCOBOLExternalMapping::addXMLCOBOLMapping(

@@ -19,13 +19,13 @@ public:
     void setNextSibling(CKTXMLCOBOLMapping* entry) { m_pNextSibling = entry; }
     [[nodiscard]] CKTXMLCOBOLMapping* getNextSibling() const { return m_pNextSibling; }
 
-    std::string m_sCobolName;     ///< the qualified name of the data item
-    std::string m_sXMLName;       ///< the element or attribute name
-    std::string m_sXMLType;       ///< the schema type
-    std::string m_sXMLNamespace;  ///< the namespace of the item
-    bool m_bXMLAttribute = false;
-    bool m_bCobolCountIn = false;
-    bool m_bMatched = false;  ///< set by FindAndMark: some data item has the name
+    std::string m_sCobolName;      ///< the qualified name of the data item
+    std::string m_sXMLName;        ///< the element or attribute name
+    std::string m_sXMLType;        ///< the schema type
+    std::string m_sXMLNamespace;   ///< the namespace of the item
+    bool m_bXMLAttribute = false;  ///< is an attribute of its group
+    bool m_bCobolCountIn = false;  ///< has a count field in the copybook
+    bool m_bMatched = false;       ///< set by FindAndMark: some data item has the name
 
 private:
     CKTXMLCOBOLMapping* m_pPrevSibling = nullptr;
@@ -77,6 +77,7 @@ public:
     void ClearAndDestroy();
 
 private:
+    /// Takes one element; `current` becomes the entry that it begins. False for an unknown one.
     bool TakeElement(const CKTXMLElement* e, CKTXMLCOBOLMapping*& current);
     void BuildIndex();
 

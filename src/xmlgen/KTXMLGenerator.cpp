@@ -40,16 +40,9 @@ void CKTXMLGenerator::setXMLCOBOLExternalMapping(CKTXMLCOBOLExternalMapping* map
     }
 }
 
-void CKTXMLGenerator::setDOMParser(CKTDOMParser* parser) {
-    if (parser != nullptr) {
-        m_pParser = parser;
-    }
-}
-
 void CKTXMLGenerator::Reset() {
     m_pDictionary = nullptr;
     m_pMapping = nullptr;
-    m_pParser = nullptr;
     m_Found = {};
     m_pView.reset();
 }

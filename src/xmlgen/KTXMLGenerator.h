@@ -14,8 +14,8 @@
 #include "xmlgen/KTXMLCOBOLExternalMapping.h"
 
 /// Writes mapping file, schema and enriched copybook from a COBOL data dictionary. All of them
-/// stand for one record: the dictionary's first. The three pointers that it is given are borrowed
-/// and must outlive it. Messages go to standard error.
+/// stand for one record: the dictionary's first. Dictionary and mapping set are borrowed and
+/// must outlive it. Messages go to standard error.
 class CKTXMLGenerator {
 public:
     enum FILE_TYPE {
@@ -31,14 +31,18 @@ public:
     CKTXMLGenerator(const CKTXMLGenerator&) = delete;
     CKTXMLGenerator& operator=(const CKTXMLGenerator&) = delete;
 
-    /// Stores the root of a parsed dictionary and forgets mapping set and parser; null is ignored.
+    /// Stores the root of a parsed dictionary and forgets the mapping set; null is ignored.
     void setCOBOLDataDictionary(CKTXMLElement* dictionary);
 
-    /// Store a pointer; null is ignored.
+    /// Stores the set that the outputs follow from now on; null is ignored. What it holds is taken
+    /// over when the next output, or ReportIdleMapping, needs it.
     void setXMLCOBOLExternalMapping(CKTXMLCOBOLExternalMapping* mapping);
-    void setDOMParser(CKTDOMParser* parser);
 
-    /// Forgets dictionary, mapping set and parser.
+    /// Part of the order of calls, without effect: the output machinery is reached through the
+    /// tree.
+    static void setDOMParser(const CKTDOMParser* parser);
+
+    /// Forgets dictionary and mapping set.
     void Reset();
 
     /// Say whether the dictionary holds a program, and a record that can be written.
@@ -85,8 +89,7 @@ private:
 
     CKTXMLElement* m_pDictionary = nullptr;
     CKTXMLCOBOLExternalMapping* m_pMapping = nullptr;
-    CKTDOMParser* m_pParser = nullptr;
-    DictionaryRecord m_Found;
+    DictionaryRecord m_Found;                    ///< what of the dictionary is converted
     std::unique_ptr<CKTDictionaryView> m_pView;  ///< made when it is needed
     bool m_bCountIn = false;
 };

@@ -22,9 +22,11 @@ public:
     /// Says whether `text` is this name, byte by byte.
     [[nodiscard]] bool Is(std::string_view text) const;
 
+    /// The name written out.
     [[nodiscard]] std::string Text() const;
 
-    /// For a table with the names as keys in which elements are looked up.
+    /// For a table with the names as text, as keys, in which elements are looked up without their
+    /// name being written out.
     struct Hash {
         using is_transparent = void;
         std::size_t operator()(const CKTQualifiedName& name) const { return name.m_nHash; }

@@ -47,25 +47,36 @@ private:
     };
 
     void BeginSchema();
+
+    /// Begin the element or attribute of an item; its tag is open after the first of them.
     void BeginTag(const DictionaryItem& item, const CKTItemClauses& clauses, unsigned indent);
     void BeginGroup(const DictionaryItem& item, unsigned indent);
     void BeginElementary(const DictionaryItem& item, unsigned indent);
+
     void EndGroup(const DictionaryItem& item, const OpenItem& open);
     void EndElementary(const DictionaryItem& item, const OpenItem& open);
+
+    /// Writes the anonymous type of an elementary item up to its last facet.
     void WriteFacets(const DictionaryItem& item, const CKTItemClauses& clauses, FacetForm form,
                      unsigned indent);
+
+    /// Writes an enumeration, and around the first and the last of an item its block.
     void WriteConstant(const CKTXMLElement* constant, unsigned indent);
     void WriteRestriction(std::string_view base, unsigned indent);
     void WriteEndTag(const DictionaryItem& item, unsigned indent);
+
+    /// Makes room for a member: the indent of its tags.
     unsigned PlaceFor(const DictionaryItem& item);
     static FacetForm FacetsOf(const DictionaryItem& item, const CKTItemClauses& clauses);
+
+    /// What the condition-names of an item hold, found once for each item.
     const Enumeration& EnumerationOf(const CKTXMLElement* item);
     static Enumeration FindEnumeration(const CKTXMLElement* item);
 
     CKTMarkup& m_Markup;
     bool m_bMapped;
     std::string_view m_sTargetNamespace;
-    std::vector<OpenItem> m_Open;
+    std::vector<OpenItem> m_Open;  ///< the innermost last
     std::unordered_map<const CKTXMLElement*, Enumeration> m_Enumerations;
 };
 

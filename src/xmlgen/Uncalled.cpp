@@ -61,6 +61,8 @@ void CKTServiceWriter::WriteRoot(const DictionaryItem& program) {
     m_Markup.Add("<parameterTypeDefs>\n", 3);
 }
 
+void CKTXMLGenerator::setDOMParser(const CKTDOMParser* /*parser*/) {}
+
 int CKTXMLGenerator::getDataDictElementType(const CKTXMLElement* e) {
     return static_cast<int>(DictionaryKindOf(e));
 }
