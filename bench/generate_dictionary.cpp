@@ -1,8 +1,10 @@
 // Writes the inputs of the benchmark for COBOL sources to standard output. The same arguments
 // always give the same bytes.
 //
-//     generate_dictionary dictionary N     a data dictionary with one record of N items in groups
-//     of 50 generate_dictionary mapping N        a mapping file with an entry for each of its items
+//     generate_dictionary dictionary N   a data dictionary: one record of N items in groups of 50
+//
+//     generate_dictionary mapping N      a mapping file: an entry for each item, none for the
+//     groups
 
 #include <array>
 #include <cstdlib>
@@ -62,7 +64,7 @@ void writeEntry(const std::string& name, const std::string& xmlName, std::string
 
 void writeMapping(std::size_t items) {
     std::cout << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<xml-cobol-mapping-file>\n";
-    writeEntry("BENCH.RECORD", "RECORD", "group");
+    writeEntry("RECORD", "RECORD", "group");
     for (std::size_t item = 0; item < items; ++item) {
         writeEntry("RECORD." + groupName(item) + "." + itemName(item), itemName(item) + "-x",
                    forms.at(item % forms.size()).type);
