@@ -67,7 +67,8 @@ TEST(Picture, SymbolsDecideCategoryAndSize) {
 
 TEST(Picture, WhatIsNoPictureIsNamed) {
     const Row rows[] = {
-        {"holds what is no PICTURE symbol", "K9 9C G(5) X() X(0) X(2 X(A) (2)"},
+        {"holds what is no PICTURE symbol", "K9 9C G(5) X() X(2 X(A) (2)"},
+        {"has a count of zero", "9(0) X(0) 9(0)9 99(00)V9"},
         {"fits no category of data",
          "S SS9 9S SX V 9V9V9 9VV9 VP PV9 9P9 NX N9 / CR + 9Z Z*9 9.9.9 9V9.9 99+9 9-- 99$ CR99 "
          "+9CR +9- Z9CRDB ZPZ9 PP*9 +Z+ $$ZZ $+9 +9.9E99 "

@@ -22,14 +22,14 @@ struct Run {
     std::size_t count;
 };
 
-/// The number in parentheses at the front of `text`, which is cut off; 0 when there is none.
-std::size_t TakeCount(std::string_view& text) {
+/// The number in parentheses at the front of `text`, which is cut off; nothing without one.
+std::optional<std::size_t> TakeCount(std::string_view& text) {
     const std::size_t end = text.find(')');
     const std::string_view number =
         end == std::string_view::npos ? std::string_view() : text.substr(1, end - 1);
     std::size_t count = 0;
     if (!IsDigits(number)) {
-        return 0;
+        return std::nullopt;
     }
     for (const char c : number) {
         count = std::min(count * 10 + static_cast<std::size_t>(c - '0'), kLongest + 1);
@@ -45,11 +45,13 @@ char SymbolOf(char c, const PictureSymbols& symbols) {
     return c;
 }
 
-/// The runs of a PICTURE, or nothing when it holds a character that is no symbol.
+/// The runs of a PICTURE, one of a count of zero among them; nothing when it holds a character that
+/// is no symbol.
 std::optional<std::vector<Run>> RunsOf(std::string_view text, const PictureSymbols& symbols) {
     std::vector<Run> runs;
     const auto add = [&runs](char symbol, std::size_t count) {
-        if (!runs.empty() && runs.back().symbol == symbol) {
+        const bool goesOn = !runs.empty() && runs.back().symbol == symbol;
+        if (goesOn && count > 0 && runs.back().count > 0) {
             runs.back().count = std::min(runs.back().count + count, kLongest + 1);
         } else {
             runs.push_back({symbol, count});
@@ -70,14 +72,11 @@ std::optional<std::vector<Run>> RunsOf(std::string_view text, const PictureSymbo
         } else {
             symbol = SymbolOf(symbol, symbols);
         }
-        std::size_t count = 1;
-        if (rest.starts_with('(')) {
-            count = TakeCount(rest);
-            if (count == 0) {
-                return std::nullopt;
-            }
+        const auto count = rest.starts_with('(') ? TakeCount(rest) : 1;
+        if (!count) {
+            return std::nullopt;
         }
-        add(symbol, count);
+        add(symbol, *count);
     }
     return runs;
 }
@@ -230,6 +229,10 @@ Picture ReadPicture(std::string_view text, const PictureSymbols& symbols) {
     const auto runs = RunsOf(text, symbols);
     if (!runs || runs->empty()) {
         failed.fault = "PICTURE " + Quoted(text) + " holds what is no PICTURE symbol";
+        return failed;
+    }
+    if (std::any_of(runs->begin(), runs->end(), [](const Run& run) { return run.count == 0; })) {
+        failed.fault = "PICTURE " + Quoted(text) + " has a count of zero";
         return failed;
     }
     const std::optional<Picture> picture = CKTPictureReader(*runs).Read();
