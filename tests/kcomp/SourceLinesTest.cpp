@@ -95,6 +95,17 @@ TEST(SourceLines, ContinuedLinesAreOne) {
     EXPECT_EQ(Fixed(kBody + "\"" + Of(64, 'a') + "IDENT\n" + kMore + "\"" + Of(54, 'b') + "\n" +
                     kMore + "\" c\"\n"),
               "1: \"" + Of(64, 'a') + Of(54, 'b') + Of(6, ' ') + " c\"");
+    // Two marks begin the second line: one restarts the literal, one ends the pair.
+    EXPECT_EQ(Fixed(kBody + "'" + Of(63, 'a') + "'\n" + kMore + "''b'.\n"),
+              "1: '" + Of(63, 'a') + "''b' 2: .");
+    EXPECT_EQ(Fixed(kBody + "'" + Of(63, 'a') + "'\n" + kMore + "'''\n" + kMore + ".\n"),
+              "1: '" + Of(63, 'a') + "''' 3: .");
+    EXPECT_EQ(Fixed(kBody + "'" + Of(63, 'a') + "'\n" + kMore + ".\n" + kBody + "''c'\n"),
+              "1: '" + Of(63, 'a') + "' 2: . 3: '' ~c !The literal has no end");
+    const std::string open = kBody + "'" + Of(64, 'a');
+    EXPECT_EQ(Fixed(open + "b'.\n"),
+              "1: !The literal has no end; text behind column 72 is not read");
+    EXPECT_EQ(Fixed(open + "b'.\n" + kMore + "'b\n"), "1: !The literal has no end");
     EXPECT_EQ(Fixed(kMore + "A.\n"), "1: !There is no line to continue");
     EXPECT_EQ(Fixed(kBody + "A VALUE 'a\n" + kMore + "\"b\".\n" + kMore + "C.\n"),
               "1: A VALUE !The literal has no end 2: !A continued literal begins with its "

@@ -39,6 +39,7 @@ public:
 
     void Add(std::string_view raw) {
         ++m_nLine;
+        m_bMore = false;
         const std::string line = ExpandTabs(raw);
         if (const auto directive = DirectiveOf(line)) {
             Obey(*directive);
@@ -78,7 +79,7 @@ private:
     }
 
     void Obey(std::string_view directive) {
-        m_cOpen = '\0';
+        CloseLiteral();
         const std::vector<std::string> words = DirectiveWords(directive);
         const auto has = [&words](std::string_view word) {
             return std::find(words.begin(), words.end(), word) != words.end();
@@ -94,11 +95,11 @@ private:
     }
 
     void AddFixed(std::string_view line) {
-        line = line.substr(0, kTextEnd);
         if (line.size() <= kIndicator) {
             return;
         }
-        const std::string_view body = line.substr(kIndicator + 1);
+        m_bMore = line.find_first_not_of(' ', std::min(line.size(), kTextEnd)) != line.npos;
+        const std::string_view body = line.substr(0, kTextEnd).substr(kIndicator + 1);
         switch (line[kIndicator]) {
             case ' ':
             case '\f':
@@ -119,7 +120,7 @@ private:
     }
 
     void BeginLine(std::string_view body) {
-        m_cOpen = '\0';
+        CloseLiteral();
         if (body.find_first_not_of(' ') != std::string_view::npos && IsReadable(body)) {
             m_Lines.emplace_back();
             Append(body, 0);
@@ -137,7 +138,9 @@ private:
         }
         std::string& text = m_Lines.back().text;
         std::size_t column = first;
-        if (m_cOpen == '\0') {
+        if (m_cHalf != '\0' && body.substr(first, 2) == std::string(2, m_cHalf)) {
+            ++column;
+        } else if (m_cOpen == '\0') {
             text.erase(text.find_last_not_of(' ') + 1);
         } else if (body[first] == m_cOpen) {
             text.append(kBodyWidth - std::min(m_nBody, kBodyWidth), ' ');
@@ -149,22 +152,31 @@ private:
         Append(body, column);
     }
 
-    /// Appends the body from `column` on, up to a comment.
+    /// Appends the body from `column` on, up to a comment. The mark that seems to close a literal
+    /// in the last column may be the first of a doubled one; the next line tells.
     void Append(std::string_view body, std::size_t column) {
         LogicalLine& line = m_Lines.back();
         line.segments.push_back({line.text.size(), m_nLine});
         m_nBody = body.size();
+        m_cHalf = '\0';
         for (std::size_t i = column; i < body.size(); ++i) {
             const char c = body[i];
             if (m_cOpen != '\0') {
+                m_cHalf = c == m_cOpen && i + 1 == kBodyWidth ? c : '\0';
                 m_cOpen = c == m_cOpen ? '\0' : m_cOpen;
             } else if (c == '"' || c == '\'') {
                 m_cOpen = c;
             } else if (body.substr(i, 2) == "*>") {
-                return;
+                break;
             }
             line.text += c == '\f' ? ' ' : c;
         }
+        line.cut = m_cOpen != '\0' && m_bMore;
+    }
+
+    void CloseLiteral() {
+        m_cOpen = '\0';
+        m_cHalf = '\0';
     }
 
     bool IsReadable(std::string_view body) {
@@ -177,7 +189,7 @@ private:
 
     void AddFault(std::string text) {
         m_Lines.push_back({{}, {{0, m_nLine}}, std::move(text)});
-        m_cOpen = '\0';
+        CloseLiteral();
     }
 
     SourceFormat m_Format;
@@ -185,6 +197,8 @@ private:
     std::size_t m_nLine = 0;
     std::size_t m_nBody = 0;  // width of the last line's body
     char m_cOpen = '\0';      // the quotation mark of a literal that is still open
+    char m_cHalf = '\0';      // the mark in the last column that closes a literal, or is doubled
+    bool m_bMore = false;     // the line goes on behind the last column
 };
 
 }  // namespace

@@ -21,6 +21,7 @@ struct LogicalLine {
     std::string text;
     std::vector<Segment> segments;
     std::string fault;
+    bool cut = false;  ///< a literal is open in column 72, and more text stands behind that
 };
 
 /// Tells the format of a source that names none: what stands in the first seven columns decides.

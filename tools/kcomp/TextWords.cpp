@@ -88,7 +88,9 @@ private:
         if (isMark(end)) {
             Add(WordKind::Literal, end + 1);
         } else {
-            m_Words.push_back({WordKind::Fault, false, "The literal has no end", Place()});
+            const std::string_view cut = m_Line.cut ? "; text behind column 72 is not read" : "";
+            m_Words.push_back(
+                {WordKind::Fault, false, "The literal has no end" + std::string(cut), Place()});
             m_nAt = m_sText.size();
         }
     }
