@@ -69,6 +69,10 @@ COMP-1 => numeric usage='comp-1'
 USAGE FLOAT-LONG => numeric usage='comp-2'
 PIC 9 BINARY => numeric picture='9' usage='comp-4' digits='1'
 PIC 9 PACKED-DECIMAL => numeric picture='9' usage='comp-3' digits='1'
+PIC S9(3) COMP-X => numeric picture='S9(3)' usage='comp-x' digits='3'
+COMPUTATIONAL-X PIC X(2) => numeric picture='X(2)' usage='comp-x' digits='5'
+PIC 9(4)V9 COMP-6 => numeric picture='9(4)V9' usage='comp-6' digits='5' alignment='1'
+USAGE PROCEDURE-POINTER => numeric usage='procedure-pointer'
 COMPUTATIONAL-5 PIC 9V9 => numeric picture='9V9' usage='comp-5' digits='2' alignment='1'
 INDEX => numeric usage='index'
 USAGE POINTER => numeric usage='pointer'
@@ -138,6 +142,47 @@ TEST(Entry, ItemsTakeFromGroupsAndOtherItems) {
     }
 }
 
+// Level 78 goes from left to right, CONSTANT by precedence; quotients lose their fraction.
+const char* const kExpressions = R"(
+78 N VALUE 2 + 3 * 4. => 20
+78 N VALUE 2 + (3 * (4 - 6)). => -4
+78 N VALUE - 2. => A whole number, a constant or LENGTH OF is expected in the expression
+78 M VALUE -7. 78 N VALUE M / 2 ** 2. => 9
+01 N CONSTANT AS 2 + 3 * 2 ** 3 - 1. => 25
+01 N CONSTANT 9 / 2. => 4
+78 N VALUE -1 ** 999999999999999999. => -1
+78 N VALUE LENGTH OF 'it''s' + LENGTH "a". => 5
+01 A. 02 B PIC X(3) OCCURS 4. 02 C REDEFINES B PIC X(9). 78 N VALUE LENGTH OF A. => 12
+01 A. 02 B PIC X. 78 M VALUE LENGTH A. 02 C PIC 9(M) COMP-3. 02 D PIC X. 78 N VALUE LENGTH A. => 3
+01 A OCCURS 3. 02 B. 03 C PIC NN. 03 D. 78 N VALUE LENGTH OF B IN A * 2 + LENGTH OF A. 04 E PIC X. => 20
+01 A COMP-3 SIGN LEADING SEPARATE. 02 B PIC 9(5). 02 C PIC S9 DISPLAY. 78 N VALUE LENGTH A. => 5
+01 A COMP-X. 02 B PIC 9(7). 02 C PIC 9(8). 02 D PIC S9(7). 02 E PIC X(5). 01 F PIC X. 78 N VALUE LENGTH A. => 16
+01 A COMP-6. 02 B PIC 9(6). 02 C PIC 9(7). 02 D PROCEDURE-POINTER. 77 E PIC X. 78 N VALUE LENGTH A. => 15
+78 N VALUE 1 +. => A whole number, a constant or LENGTH OF is expected in the expression
+78 N VALUE 1.5 + 1. => A whole number, a constant or LENGTH OF is expected in the expression
+78 N VALUE (1 + 2. => A parenthesis of the expression is not closed
+78 N VALUE 9 / 0. => The expression has no whole number of 64 bits as its value
+78 N VALUE 10 ** 19. => The expression has no whole number of 64 bits as its value
+78 N VALUE LENGTH OF A. => LENGTH OF names 'A', which does not stand before it
+01 A. 02 B PIC X. 01 C. 02 B PIC X. 78 N VALUE LENGTH OF B. => LENGTH OF names 'B', of which there are several
+)";
+
+// The value of the constant N, or the complaint.
+std::string ValueOfN(const std::string& source) {
+    const std::string shown = Read(source);
+    const std::string constant = "name='N' value='";
+    const std::size_t at = shown.find(constant);
+    const std::string place = "a(1) : Error : ";
+    return at != std::string::npos
+               ? shown.substr(at + constant.size(),
+                              shown.find('\'', at + constant.size()) - at - constant.size())
+               : shown.substr(place.size(), shown.find('\n') - place.size());
+}
+
+TEST(Entry, ConstantsAreWorkedOut) {
+    Check(ValueOfN, kExpressions);
+}
+
 // Another name for an item, or the bytes of several: 3 + 3 + 2 + 4 + 8 + 4 + 8 + 4 + 4 + 3 + 8 + 4
 // + 4 + 16, the redefinition not counted.
 TEST(Entry, RenamesDescribesAnItemOrARange) {
@@ -159,7 +204,17 @@ const char* const kComplaints = R"(
 50 A PIC X. => Level 50 is none of 01 to 49, 66, 77, 78 and 88
 001 A PIC X. => Level 001 is none of 01 to 49, 66, 77, 78 and 88
 01 A PIC X 05 B PIC X. => The period before 05 is missing
-01 A COMP-X. => Clause 'COMP-X' is not supported
+01 A OBJECT. => Clause 'OBJECT' is not supported
+01 A PIC S9 COMP-6. => Item 'A' has USAGE COMP-6, which does not go with PICTURE 'S9'
+01 A PIC X(9) COMP-X. => Item 'A' has USAGE COMP-X, which does not go with PICTURE 'X(9)'
+01 A PIC 9 COMP-X BLANK ZERO. => Item 'A' cannot be BLANK WHEN ZERO
+01 A PIC X(0)9. => PICTURE 'X(0)9' has a count of zero
+01 A. 05 B. 10 C PIC X. 07 D PIC X. 05 E PIC X. => The level of 'D' is that of no item before it in its group
+FD F. 77 A PIC X. => 'A' is of level 77, which is no record of a file
+01 A. 02 B PIC X(3). 02 C REDEFINES B. 03 D PIC X OCCURS 4. => Item 'C' is larger than 'B', which it redefines
+05 A PIC 9(4) COMP. 05 B REDEFINES A PIC X(3). => Item 'B' is larger than 'A', which it redefines
+01 A. 02 B PIC XX. 02 C REDEFINES B PIC X. 02 D REDEFINES C PIC X(3). => Item 'D' is larger than 'C', which it redefines
+WORKING-STORAGE SECTION. 01 A. 02 B PIC X OCCURS UNBOUNDED. => OCCURS UNBOUNDED has no storage in the WORKING-STORAGE SECTION
 01 A PIC X PICTURE X. => Clause PICTURE is given twice
 01 A PIC X. 88 C PIC X VALUE 'a'. => A condition-name has a name, a VALUE clause and nothing else
 66 C VALUE 1. => An entry of level 66 has a name, a RENAMES clause and nothing else
@@ -223,6 +278,27 @@ WORKING-STORAGE SECTION 01 A PIC X. => The section header has no period
 
 TEST(Entry, EachComplaintNamesWhatIsWrong) {
     Check(Complaint, kComplaints);
+}
+
+// What may be right on some system, or says nothing about data.
+TEST(Entry, WhatIsNotSurelyWrongIsTaken) {
+    for (const std::string source : {
+             "01 A PIC X. 01 B REDEFINES A PIC XX.",
+             "77 A PIC X. 77 B REDEFINES A PIC XX.",
+             "01 A. 02 B PIC XX. 02 C REDEFINES B PIC X. 02 D REDEFINES C PIC XX.",
+             "01 A. 02 B PIC X(3). 02 C REDEFINES B PIC 9(5) COMP.",
+             "01 A. 02 B PIC X(4). 02 C REDEFINES B POINTER.",
+             "01 A. 02 B. 03 C PIC X. 03 D COMP-2 SYNC. 02 E REDEFINES B PIC X(16).",
+             "10 A PIC X. 05 B PIC X.",
+             "FILE SECTION. FD F. 01 A. 02 B PIC X OCCURS UNBOUNDED. WORKING-STORAGE SECTION. 01 C "
+             "PIC X.",
+             "01 A PIC X. EXEC SQL BEGIN DECLARE SECTION END-EXEC. 01 B PIC X. EXEC SQL END "
+             "DECLARE SECTION END-EXEC",
+             "DATA DIVISION. EXEC SQL BEGIN DECLARE SECTION END-EXEC. WORKING-STORAGE SECTION. 01 "
+             "A PIC X.",
+         }) {
+        EXPECT_EQ(Read(source).find("Error"), std::string::npos) << source << '\n' << Read(source);
+    }
 }
 
 TEST(Entry, AMissingPeriodLosesNothing) {

@@ -26,7 +26,10 @@ enum class Usage {
     Comp5,
     Index,
     Pointer,
-    National
+    National,
+    CompX,
+    Comp6,
+    ProcedurePointer
 };
 
 enum class SignPosition { None, Leading, LeadingSeparate, Trailing, TrailingSeparate };
@@ -63,7 +66,8 @@ struct DataItem {
     std::vector<std::pair<std::string, std::string>> notes;
 
     DataItem* parent = nullptr;
-    DataItem* redefined = nullptr;                    ///< what the item redefines
+    int levelBelow = 0;                               ///< of the data items among the children
+    DataItem* redefined = nullptr;                    ///< whose storage the item shares
     std::vector<std::unique_ptr<DataItem>> children;  ///< condition-names among them
 
     // What the clauses mean together; set once the record is complete.
@@ -72,6 +76,13 @@ struct DataItem {
     Picture description;      ///< length, digits and decimals
     std::size_t offset = 0;   ///< in bytes from the record's first
     std::size_t storage = 0;  ///< in bytes, of all occurrences
+    std::size_t least = 0;    ///< the storage where binary items, addresses and slack bytes take
+    std::size_t most = 0;     ///< up as little room, or as much, as systems give them
+    bool isComplete = false;  ///< whether all of the above is set
+
+    /// Of a group that is not complete: how many children have their place, and where they end.
+    std::size_t placedChildren = 0;
+    std::size_t placedEnd = 0;
 };
 
 /// The records of one FD or SD, or the items of WORKING-STORAGE.

@@ -63,8 +63,9 @@ std::string_view ElementOf(const DataItem& item) {
 }
 
 std::string_view UsageOf(const DataItem& item) {
-    constexpr std::array<std::string_view, 10> kTexts = {
-        "", "", "comp-1", "comp-2", "comp-3", "comp-4", "comp-5", "index", "pointer", "national"};
+    constexpr std::array<std::string_view, 13> kTexts = {
+        "",      "",        "comp-1",   "comp-2", "comp-3", "comp-4",           "comp-5",
+        "index", "pointer", "national", "comp-x", "comp-6", "procedure-pointer"};
     return item.isGroup ? "" : kTexts.at(static_cast<std::size_t>(item.usage));
 }
 

@@ -26,6 +26,8 @@ const UsageWord* UsageOf(std::string_view word) {
         {"COMP-3", {Usage::Comp3, "", 0}},
         {"COMP-4", {Usage::Comp4, "", 0}},
         {"COMP-5", {Usage::Comp5, "", 0}},
+        {"COMP-6", {Usage::Comp6, "", 0}},
+        {"COMP-X", {Usage::CompX, "", 0}},
         {"DISPLAY", {Usage::Display, "", 0}},
         {"FLOAT-LONG", {Usage::Comp2, "", 0}},
         {"FLOAT-SHORT", {Usage::Comp1, "", 0}},
@@ -33,6 +35,7 @@ const UsageWord* UsageOf(std::string_view word) {
         {"NATIONAL", {Usage::National, "", 0}},
         {"PACKED-DECIMAL", {Usage::Comp3, "", 0}},
         {"POINTER", {Usage::Pointer, "", 0}},
+        {"PROCEDURE-POINTER", {Usage::ProcedurePointer, "", 0}},
     };
     constexpr std::string_view kLong = "COMPUTATIONAL";
     std::string upper = ToUpper(word);
@@ -65,7 +68,7 @@ void CKTEntryReader::ReadConstant() {
     Skip("IS");
     Skip("GLOBAL");
     Skip("AS");
-    m_pItem->values.push_back({TakeValue(), ""});
+    m_pItem->values.push_back({TakeConstant(), ""});
 }
 
 void CKTEntryReader::ReadCountIn() {
@@ -159,6 +162,10 @@ void CKTEntryReader::ReadOccurs() {
         return;
     }
     const bool bounded = IsDigits(m_pItem->maxOccurs);
+    if (!bounded && m_Context.inStorage) {
+        FailAt(start, "OCCURS UNBOUNDED has no storage in the WORKING-STORAGE SECTION");
+        return;
+    }
     const long maximum = bounded ? std::stol(m_pItem->maxOccurs) : 0;
     const bool rising = m_pItem->minOccurs.empty() || std::stol(m_pItem->minOccurs) < maximum;
     if (bounded && (maximum == 0 || !rising)) {
@@ -257,7 +264,7 @@ void CKTEntryReader::ReadValue() {
     Skip("ARE");
     do {
         ItemValue value;
-        value.value = TakeValue();
+        value.value = m_pItem->level == kConstantLevel ? TakeConstant() : TakeValue();
         if (Skip("THRU") || Skip("THROUGH")) {
             value.through = TakeValue();
         }

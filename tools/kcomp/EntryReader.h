@@ -16,11 +16,16 @@
 /// values as the dictionary holds them.
 using Constants = std::unordered_map<std::string, std::string>;
 
+/// The data items of a program by their names in upper case.
+using ItemsByName = std::unordered_multimap<std::string, DataItem*>;
+
 /// What all entries of a program are read with.
 struct ReadingContext {
     CKTReport& report;
     Constants constants;
+    ItemsByName items;
     PictureSymbols symbols;
+    bool inStorage = false;  ///< whether the entry surely stands in the WORKING-STORAGE SECTION
 };
 
 /// Reads the clauses of one data description entry.
@@ -87,6 +92,7 @@ private:
     std::string TakeNames();
     std::string TakeInteger();
     std::string TakeLiteralText();
+    std::string TakeConstant();
     std::string TakeValue();
     std::string TakeWordValue();
     void FailBecauseOfWord();

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 
+#include "kcomp/ConstantExpression.h"
 #include "kcomp/EntryReader.h"
 #include "kcomp/Text.h"
 
@@ -131,6 +132,24 @@ std::string CKTEntryReader::TakeValue() {
         value.replace(value.size() - 1, 1, next.substr(1));
     }
     return all + value;
+}
+
+/// The value of a named constant, which may be an expression.
+std::string CKTEntryReader::TakeConstant() {
+    const std::size_t start = m_nAt;
+    if (!IsPartOfExpression(m_Words, m_nAt)) {
+        std::string value = TakeValue();
+        if (m_bFailed || !IsPartOfExpression(m_Words, m_nAt)) {
+            return value;
+        }
+    }
+    const bool precedence = m_pItem->level != kConstantLevel;
+    ExpressionResult result = ReadExpression(m_Words, start, precedence, m_Context);
+    m_nAt = result.end;
+    if (!result.fault.empty()) {
+        Fail(result.fault);
+    }
+    return result.value;
 }
 
 std::string CKTEntryReader::TakeWordValue() {

@@ -1,16 +1,13 @@
 // What the clauses of an item mean together with those of the groups above it.
 #include <algorithm>
-#include <limits>
 
+#include "kcomp/ItemSize.h"
 #include "kcomp/RecordBuilder.h"
 #include "kcomp/Text.h"
 
 namespace {
 
-constexpr std::size_t kLargest = std::numeric_limits<int>::max();
-constexpr std::size_t kPointerSize = 8;
-constexpr std::size_t kIndexSize = 4;
-constexpr std::size_t kDigitsOfByte = 3;
+constexpr std::size_t kMostBytes = 8;  // of COMP-X
 
 std::string_view UsageText(Usage usage) {
     switch (usage) {
@@ -20,6 +17,10 @@ std::string_view UsageText(Usage usage) {
             return "COMP";
         case Usage::Comp5:
             return "COMP-5";
+        case Usage::Comp6:
+            return "COMP-6";
+        case Usage::CompX:
+            return "COMP-X";
         case Usage::National:
             return "NATIONAL";
         default:
@@ -29,59 +30,18 @@ std::string_view UsageText(Usage usage) {
 
 /// Usages of items that have no PICTURE.
 bool StandsAlone(Usage usage) {
-    return usage == Usage::Comp1 || usage == Usage::Comp2 || usage == Usage::Index ||
-           usage == Usage::Pointer;
+    return usage == Usage::Comp1 || usage == Usage::Comp2 || IsAddress(usage);
 }
 
 bool IsBinaryOrPacked(Usage usage) {
-    return usage == Usage::Comp3 || usage == Usage::Comp4 || usage == Usage::Comp5;
+    return IsBinary(usage) || usage == Usage::Comp3 || usage == Usage::Comp6 ||
+           usage == Usage::CompX;
 }
 
-std::size_t BinarySize(std::size_t digits) {
-    constexpr std::size_t kHalfWord = 4;
-    constexpr std::size_t kWord = 9;
-    constexpr std::size_t kDoubleWord = 18;
-    if (digits <= kHalfWord) {
-        return 2;
-    }
-    if (digits <= kWord) {
-        return 4;
-    }
-    return digits <= kDoubleWord ? 8 : 16;
+/// The digits of the largest number that so many bytes hold.
+std::size_t DigitsOfBytes(std::size_t bytes) {
+    return bytes * 8 * 30103 / 100000 + 1;
 }
-
-std::size_t SizeOf(const DataItem& item) {
-    switch (item.usage) {
-        case Usage::Comp1:
-            return 4;
-        case Usage::Comp2:
-            return 8;
-        case Usage::Comp3:
-            return item.description.length / 2 + 1;
-        case Usage::Comp4:
-        case Usage::Comp5:
-            return item.binaryDigits == kDigitsOfByte ? 1 : BinarySize(item.description.length);
-        case Usage::Index:
-            return kIndexSize;
-        case Usage::Pointer:
-            return kPointerSize;
-        case Usage::National:
-            return 2 * item.description.length;
-        default:
-            break;
-    }
-    const bool separate =
-        item.sign == SignPosition::LeadingSeparate || item.sign == SignPosition::TrailingSeparate;
-    return item.description.length + (separate ? 1 : 0);
-}
-
-/// What an item takes over from the groups above it.
-struct Inherited {
-    Usage usage = Usage::None;
-    std::size_t binaryDigits = 0;
-    std::string_view binaryPicture;
-    SignPosition sign = SignPosition::None;
-};
 
 class CKTItemDescriber {
 public:
@@ -89,20 +49,18 @@ public:
 
     /// Nests no deeper than levels do.
     void Describe(DataItem& item, Inherited clauses, std::size_t offset) {
-        if (item.usage != Usage::None) {
-            clauses.usage = item.usage;
-            clauses.binaryDigits = item.binaryDigits;
-            clauses.binaryPicture = item.binaryPicture;
-        }
-        clauses.sign = item.sign == SignPosition::None ? clauses.sign : item.sign;
+        clauses.Meet(item);
         item.offset = offset;
         if (item.isGroup) {
             DescribeGroup(item, clauses);
         } else {
             DescribeElementary(item, clauses);
         }
-        const std::size_t times = IsDigits(item.maxOccurs) ? std::stoul(item.maxOccurs) : 1;
-        item.storage = std::min(std::min(item.storage, kLargest) * times, kLargest);
+        item.storage = OfAll(item.storage, item);
+        item.least = OfAll(item.least, item);
+        item.most = OfAll(item.most, item);
+        item.isComplete = true;
+        CheckRedefinedSize(item);
     }
 
 private:
@@ -118,8 +76,20 @@ private:
             const std::size_t begin = child->redefined == nullptr ? end : child->redefined->offset;
             Describe(*child, clauses, begin);
             end = std::max(end, begin + child->storage);
+            group.least += child->redefined == nullptr ? child->least : 0;
+            group.most += child->redefined == nullptr ? child->most : 0;
         }
         group.storage = end - group.offset;
+    }
+
+    /// On level 01 a redefinition may have more; below, it gets what there is. Only what is too
+    /// large wherever the program may run is refused.
+    void CheckRedefinedSize(const DataItem& item) {
+        const DataItem* object = item.redefined;
+        const bool below = item.level > 1 && item.level <= kHighestLevel;
+        if (below && object != nullptr && object->most > 0 && item.least > object->most) {
+            Complain(item, "is larger than " + Quoted(item.redefines) + ", which it redefines");
+        }
     }
 
     void DescribeElementary(DataItem& item, const Inherited& clauses) {
@@ -139,6 +109,8 @@ private:
         }
         DescribeSign(item, clauses.sign);
         item.storage = SizeOf(item);
+        item.least = LeastSizeOf(item);
+        item.most = MostSizeOf(item);
     }
 
     bool ReadItemPicture(DataItem& item, const Inherited& clauses) {
@@ -151,6 +123,11 @@ private:
             return false;
         }
         item.category = item.description.category;
+        if (item.usage == Usage::CompX && item.category == Category::Alphanumeric &&
+            item.description.length <= kMostBytes) {
+            item.category = Category::Numeric;
+            item.description.digits = DigitsOfBytes(item.description.length);
+        }
         if (item.binaryDigits > 0) {
             item.description.digits = item.binaryDigits;
         }
@@ -164,7 +141,8 @@ private:
             item.usage = Usage::National;
         }
         const bool fits =
-            numeric || (national && item.usage == Usage::National) ||
+            (numeric && !(item.usage == Usage::Comp6 && item.description.isSigned)) ||
+            (national && item.usage == Usage::National) ||
             (item.category == Category::NumericEdited && item.usage == Usage::National) ||
             (!national && item.usage == Usage::Display);
         if (!fits) {

@@ -29,6 +29,10 @@ bool IsListingWord(const TextWord& word) {
     return IsWordOf(kListingWords, word);
 }
 
+bool SaysNothingOfData(const TextWord& word) {
+    return IsListingWord(word) || word.kind == WordKind::Replace;
+}
+
 bool IsLevel(const TextWord& word) {
     return word.kind == WordKind::Word && IsDigits(word.text);
 }
@@ -39,11 +43,11 @@ CKTProgramReader::CKTProgramReader(std::vector<TextWord> words, std::string name
                                    CKTReport& report)
     : m_Words(std::move(words)),
       m_sName(std::move(name)),
-      m_Context{report, {}, {}},
+      m_Context{report, {}, {}, {}, false},
       m_Start(start) {}
 
 std::deque<ProgramData> CKTProgramReader::Read() {
-    const auto first = std::find_if_not(m_Words.begin(), m_Words.end(), IsListingWord);
+    const auto first = std::find_if_not(m_Words.begin(), m_Words.end(), SaysNothingOfData);
     if (first != m_Words.end()) {
         const bool file = IsWord(*first, "FD") || IsWord(*first, "SD");
         m_bBare =
@@ -72,7 +76,11 @@ bool CKTProgramReader::InData() const {
 }
 
 bool CKTProgramReader::TakeHeader() {
-    if (IsDivision(m_nAt)) {
+    if (m_Words[m_nAt].kind == WordKind::Replace) {
+        TakeReplace();
+    } else if (TakeDeclareSection()) {
+        return true;
+    } else if (IsDivision(m_nAt)) {
         TakeDivision();
     } else if (IsSection(m_nAt)) {
         TakeSection();
@@ -83,6 +91,28 @@ bool CKTProgramReader::TakeHeader() {
     } else {
         return false;
     }
+    return true;
+}
+
+/// What follows such a statement may be other text than what stands there. That is a fault where
+/// data descriptions follow.
+void CKTProgramReader::TakeReplace() {
+    const TextWord& word = m_Words[m_nAt++];
+    m_Replace = SameWord(word.text, "OFF") ? SourcePlace{} : word.place;
+}
+
+/// What an embedding of SQL puts around host variables says nothing about them.
+bool CKTProgramReader::TakeDeclareSection() {
+    constexpr std::array<std::string_view, 6> kWords = {"EXEC",    "SQL",     "",
+                                                        "DECLARE", "SECTION", "END-EXEC"};
+    for (std::size_t i = 0; i < kWords.size(); ++i) {
+        const std::size_t at = m_nAt + i;
+        if (kWords.at(i).empty() ? !Is(at, "BEGIN") && !Is(at, "END") : !Is(at, kWords.at(i))) {
+            return false;
+        }
+    }
+    m_nAt += kWords.size();
+    m_nAt += IsPeriod(m_nAt) ? 1 : 0;
     return true;
 }
 
@@ -134,6 +164,7 @@ void CKTProgramReader::TakeProgramName() {
     // A contained program goes by the special names and constants of the one around it.
     if (m_nNesting++ == 0) {
         m_Context.constants.clear();
+        m_Context.items.clear();
         m_Context.symbols = {};
     }
 }
@@ -253,6 +284,10 @@ bool CKTProgramReader::BeginsMissedEntry(std::size_t at) const {
 void CKTProgramReader::TakeDataEntry() {
     CKTReport& report = m_Context.report;
     const std::size_t end = EndOfEntry();
+    if (m_Replace.line > 0) {
+        report.Error(m_Replace, "\"REPLACE\" is not supported");
+        m_Replace = {};
+    }
     if (!m_Builder) {
         const bool file = m_Place == Place::FileSection;
         if (file) {
@@ -260,6 +295,7 @@ void CKTProgramReader::TakeDataEntry() {
         }
         BeginArea(file, "");
     }
+    m_Context.inStorage = m_Place == Place::WorkingStorage && !m_bBare;
     CKTEntryReader reader(std::span<TextWord>(m_Words).subspan(m_nAt, end - m_nAt), m_Context);
     std::unique_ptr<DataItem> item = reader.Read();
     m_nAt += reader.WordsRead();

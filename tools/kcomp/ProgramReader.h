@@ -29,6 +29,8 @@ private:
     enum class Place { Elsewhere, Environment, DataDivision, WorkingStorage, FileSection };
 
     bool TakeHeader();
+    void TakeReplace();
+    bool TakeDeclareSection();
     void TakeDivision();
     void TakeSection();
     void TakeProgramName();
@@ -58,6 +60,7 @@ private:
     std::deque<ProgramData> m_Programs;
     std::optional<CKTRecordBuilder> m_Builder;
     SourcePlace m_Start;
+    SourcePlace m_Replace;  // of the REPLACE statement that changes what comes
     std::size_t m_nAt = 0;
     std::size_t m_nEnd = 0;      // where the entry ends, once it was looked for
     std::size_t m_nNesting = 0;  // programs that are open

@@ -21,17 +21,16 @@ bool IsRepeated(const DataItem* item) {
     return item != nullptr;
 }
 
-/// Whether the item stands under groups of these names, given from the innermost on.
-bool IsBelow(const DataItem* item, const std::vector<std::string>& qualifiers) {
-    std::size_t met = 0;
-    for (const DataItem* group = item->parent; group != nullptr && met < qualifiers.size();
-         group = group->parent) {
-        met += SameWord(group->name, qualifiers[met]) ? 1 : 0;
-    }
-    return met == qualifiers.size();
-}
-
 }  // namespace
+
+bool IsBelow(const DataItem* item, std::span<const std::string> groups) {
+    std::size_t met = 0;
+    for (const DataItem* group = item->parent; group != nullptr && met < groups.size();
+         group = group->parent) {
+        met += SameWord(group->name, groups[met]) ? 1 : 0;
+    }
+    return met == groups.size();
+}
 
 void CKTRecordBuilder::Add(std::unique_ptr<DataItem> item) {
     if (item->isConstant) {
@@ -72,20 +71,38 @@ void CKTRecordBuilder::AddData(std::unique_ptr<DataItem> item) {
             m_Context.report.Error(item->place,
                                    ShownName(*item) + " stands under an item that has a PICTURE");
         }
+        CheckLevel(*item, *parent);
         CheckRedefines(*item, m_Open.back().names);
         item->parent = parent;
         parent->isGroup = true;
         parent->children.push_back(std::move(item));
     }
     m_pLast = added;
+    if (!added->name.empty()) {
+        m_Context.items.emplace(ToUpper(added->name), added);
+    }
     if (!lone) {
         m_Open.push_back({added, {}});
+    }
+}
+
+/// A group whose items are not of one level has lost one above them, or a digit is wrong.
+void CKTRecordBuilder::CheckLevel(const DataItem& item, DataItem& parent) {
+    if (parent.levelBelow == 0) {
+        parent.levelBelow = item.level;
+    } else if (parent.levelBelow != item.level) {
+        m_Context.report.Error(item.place, "The level of " + ShownName(item) +
+                                               " is that of no item before it in its group");
     }
 }
 
 void CKTRecordBuilder::BeginRecord(std::unique_ptr<DataItem> item) {
     if (item->level > 1 && item->level != kLoneLevel && (!m_bBare || !m_Renames.empty())) {
         m_Context.report.Error(item->place, ShownName(*item) + " stands under no level 01");
+    }
+    if (item->level == kLoneLevel && m_Area.isFile) {
+        m_Context.report.Error(item->place,
+                               ShownName(*item) + " is of level 77, which is no record of a file");
     }
     Finish();
     m_pRecord = item.get();
@@ -137,7 +154,9 @@ void CKTRecordBuilder::CheckRedefines(DataItem& item, Names& names) {
             m_Context.report.Error(item.place, "REDEFINES names " + Quoted(item.redefines) +
                                                    ", which does not stand before it beside it");
         } else {
-            item.redefined = found->second;
+            // What redefines a redefinition shares the storage of the first.
+            DataItem* const object = found->second;
+            item.redefined = object->redefined == nullptr ? object : object->redefined;
         }
     }
     names.insert_or_assign(ToUpper(item.name), &item);

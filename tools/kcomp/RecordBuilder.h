@@ -2,6 +2,7 @@
 #define DORVEX_KCOMP_RECORDBUILDER_H
 
 #include <memory>
+#include <span>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -44,6 +45,7 @@ private:
     void AddConstant(std::unique_ptr<DataItem> item);
     void AddRenames(std::unique_ptr<DataItem> item);
     void BeginRecord(std::unique_ptr<DataItem> item);
+    void CheckLevel(const DataItem& item, DataItem& parent);
     void CheckRedefines(DataItem& item, Names& names);
     void IndexItems();
     DataItem* FindRenamed(const DataItem& item, const std::string& qualifiedName);
@@ -64,6 +66,9 @@ private:
     // For RENAMES: by name, and by name and the name of each group above.
     std::unordered_multimap<std::string, DataItem*> m_ItemsOfRecord;
 };
+
+/// Whether the item stands under groups of these names, given from the innermost on.
+bool IsBelow(const DataItem* item, std::span<const std::string> groups);
 
 /// Completes an item and all below it: usage and sign that they inherit, category, sizes and
 /// offsets. Complains of clauses that do not go together.

@@ -48,6 +48,14 @@ std::size_t EndOfStatement(const std::vector<TextWord>& words, std::size_t at) {
     return std::min(at == words.size() ? first + 1 : at + 1, words.size());
 }
 
+/// Whether a statement begins that changes the text behind it. The word alone may be a name.
+bool IsReplace(const std::vector<TextWord>& words, std::size_t at) {
+    return IsWord(words[at], "REPLACE") && at + 1 < words.size() &&
+           (words[at + 1].kind == WordKind::Pseudo || IsWord(words[at + 1], "ALSO") ||
+            IsWord(words[at + 1], "LEADING") || IsWord(words[at + 1], "TRAILING") ||
+            IsWord(words[at + 1], "OFF"));
+}
+
 TextWord FaultAt(const SourcePlace& place, std::string text) {
     return {WordKind::Fault, false, std::move(text), place};
 }
@@ -81,8 +89,15 @@ std::optional<std::vector<TextWord>> CKTSourceReader::WordsOf(const std::string&
 std::vector<TextWord> CKTSourceReader::Expand(std::vector<TextWord> words, SourceFormat format) {
     std::vector<TextWord> expanded;
     for (std::size_t at = 0; at < words.size();) {
+        if (IsReplace(words, at)) {
+            const std::size_t end = EndOfStatement(words, at);
+            words[at].kind = WordKind::Replace;
+            words[at].text = words[at + 1].text;
+            expanded.push_back(std::move(words[at]));
+            at = end;
+            continue;
+        }
         if (!IsWord(words[at], "COPY")) {
-            RefuseReplace(words, at);
             expanded.push_back(std::move(words[at++]));
             continue;
         }
@@ -93,17 +108,6 @@ std::vector<TextWord> CKTSourceReader::Expand(std::vector<TextWord> words, Sourc
         at = copy.end;
     }
     return expanded;
-}
-
-/// REPLACE would change all text that follows, wherever it stands.
-void CKTSourceReader::RefuseReplace(const std::vector<TextWord>& words, std::size_t at) {
-    const bool statement =
-        IsWord(words[at], "REPLACE") && at + 1 < words.size() &&
-        (words[at + 1].kind == WordKind::Pseudo || IsWord(words[at + 1], "ALSO") ||
-         IsWord(words[at + 1], "LEADING") || IsWord(words[at + 1], "TRAILING"));
-    if (statement) {
-        m_Report.Error(words[at].place, "\"REPLACE\" is not supported");
-    }
 }
 
 std::vector<TextWord> CKTSourceReader::Copied(const CopyStatement& copy, SourceFormat format) {

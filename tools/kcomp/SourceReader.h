@@ -21,7 +21,8 @@ public:
     /// Reads the file `path` and returns its words. `format` is the source's format when a
     /// directive file names one; otherwise the text itself decides. Returns nothing, with a
     /// complaint, when the file cannot be read. What is wrong inside (a copy file that is not
-    /// found, a literal without an end) becomes a fault among the words, for whoever needs them.
+    /// found, a literal without an end) becomes a fault among the words, for whoever needs them;
+    /// of a REPLACE statement, which is not obeyed, one word of that kind is left.
     std::optional<std::vector<TextWord>> Read(const std::string& path,
                                               std::optional<SourceFormat> format);
 
@@ -36,7 +37,6 @@ private:
     std::optional<std::vector<TextWord>> WordsOf(const std::string& path, SourceFormat& format,
                                                  bool detect);
     std::vector<TextWord> Expand(std::vector<TextWord> words, SourceFormat format);
-    void RefuseReplace(const std::vector<TextWord>& words, std::size_t at);
     std::vector<TextWord> Copied(const CopyStatement& copy, SourceFormat format);
 
     static CopyStatement ReadCopy(const std::vector<TextWord>& words, std::size_t at);

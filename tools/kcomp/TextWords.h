@@ -14,6 +14,7 @@ enum class WordKind {
     Mark,     ///< a parenthesis or a colon
     Pseudo,   ///< "==", an end of pseudo-text
     Period,   ///< the end of an entry or statement
+    Replace,  ///< a REPLACE statement as a whole; the text is the word behind REPLACE
     Fault     ///< what cannot be read; the text is the complaint
 };
 

@@ -19,7 +19,7 @@
        01  I REDEFINES D PIC X.
        02  J PIC X.
        EXEC SQL
-           BEGIN DECLARE SECTION
+           DECLARE C CURSOR FOR S
        END-EXEC.
            COPY ABSENT.
        COPY BROKEN
@@ -30,6 +30,7 @@
        78  MOST VALUE 3.
        PROCEDURE DIVISION.
            COPY ABSENT.
+           REPLACE ==MOST== BY ==3==.
            NONSENSE "with no end.
        END PROGRAM ENTRIES.
        PROGRAM-ID. ANOTHER.

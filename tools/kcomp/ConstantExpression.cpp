@@ -1,0 +1,193 @@
+// Expressions of constants, by operator precedence over 64-bit integers; quotients are cut off.
+#include "kcomp/ConstantExpression.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <optional>
+
+#include "kcomp/ItemSize.h"
+#include "kcomp/RecordBuilder.h"
+#include "kcomp/Text.h"
+
+namespace {
+
+using Number = std::int64_t;
+
+constexpr int kMostNested = 20;
+constexpr std::size_t kMostDigits = 18;
+
+struct Operator {
+    std::string_view text;
+    int precedence;
+    std::optional<Number> (*apply)(Number, Number);
+};
+
+std::optional<Number> Sum(Number a, Number b) {
+    Number result = 0;
+    return __builtin_add_overflow(a, b, &result) ? std::nullopt : std::optional(result);
+}
+
+std::optional<Number> Difference(Number a, Number b) {
+    Number result = 0;
+    return __builtin_sub_overflow(a, b, &result) ? std::nullopt : std::optional(result);
+}
+
+std::optional<Number> Product(Number a, Number b) {
+    Number result = 0;
+    return __builtin_mul_overflow(a, b, &result) ? std::nullopt : std::optional(result);
+}
+
+std::optional<Number> Quotient(Number a, Number b) {
+    return b == 0 || (b == -1 && a == INT64_MIN) ? std::nullopt : std::optional(a / b);
+}
+
+std::optional<Number> Power(Number base, Number exponent) {
+    if (exponent < 0) {
+        return std::nullopt;
+    }
+    // These stay what they are or change their sign; any other soon overflows.
+    const bool small = base >= -1 && base <= 1;
+    const Number times = small ? std::min<Number>(exponent, 2 + exponent % 2) : exponent;
+    std::optional<Number> result = 1;
+    for (Number i = 0; i < times && result; ++i) {
+        result = Product(*result, base);
+    }
+    return result;
+}
+
+constexpr std::array<Operator, 5> kOperators = {
+    {{"+", 1, Sum}, {"-", 1, Difference}, {"*", 2, Product}, {"/", 2, Quotient}, {"**", 3, Power}}};
+
+const Operator* OperatorAt(std::span<const TextWord> words, std::size_t at) {
+    const auto found =
+        std::find_if(kOperators.begin(), kOperators.end(), [words, at](const Operator& candidate) {
+            return at < words.size() && IsWord(words[at], candidate.text);
+        });
+    return found == kOperators.end() ? nullptr : &*found;
+}
+
+bool IsMark(std::span<const TextWord> words, std::size_t at, std::string_view mark) {
+    return at < words.size() && words[at].kind == WordKind::Mark && words[at].text == mark;
+}
+
+class CKTExpressionReader {
+public:
+    CKTExpressionReader(std::span<const TextWord> words, std::size_t at, bool precedence,
+                        ReadingContext& context)
+        : m_Words(words), m_nAt(at), m_bPrecedence(precedence), m_Context(context) {}
+
+    ExpressionResult Read() {
+        const Number value = TakeSum(0, 0);
+        return {m_sFault.empty() ? std::to_string(value) : "", m_sFault, m_nAt};
+    }
+
+private:
+    /// Takes operands and the operators above `floor`. Nests with the parentheses, which are
+    /// counted, and with the three levels of precedence.
+    Number TakeSum(int floor, int nesting) {
+        Number value = TakeOperand(nesting);
+        while (m_sFault.empty()) {
+            const Operator* const found = OperatorAt(m_Words, m_nAt);
+            const int precedence = found != nullptr && m_bPrecedence ? found->precedence : 1;
+            if (found == nullptr || precedence <= floor) {
+                break;
+            }
+            const std::size_t place = m_nAt++;
+            const Number right = TakeSum(precedence, nesting);
+            const std::optional<Number> result = found->apply(value, right);
+            if (m_sFault.empty() && !result) {
+                m_nAt = place;
+                m_sFault = "The expression has no whole number of 64 bits as its value";
+            }
+            value = result.value_or(0);
+        }
+        return value;
+    }
+
+    Number TakeOperand(int nesting) {
+        if (IsMark(m_Words, m_nAt, "(") && nesting < kMostNested) {
+            ++m_nAt;
+            const Number value = TakeSum(0, nesting + 1);
+            if (m_sFault.empty() && !IsMark(m_Words, m_nAt, ")")) {
+                m_sFault = "A parenthesis of the expression is not closed";
+            }
+            m_nAt += m_sFault.empty() ? 1 : 0;
+            return value;
+        }
+        if (m_nAt < m_Words.size() && IsWord(m_Words[m_nAt], "LENGTH")) {
+            return TakeLength();
+        }
+        std::string text;
+        if (m_nAt < m_Words.size() && m_Words[m_nAt].kind == WordKind::Word) {
+            const auto constant = m_Context.constants.find(ToUpper(m_Words[m_nAt].text));
+            text = constant == m_Context.constants.end() ? m_Words[m_nAt].text : constant->second;
+        }
+        const std::size_t sign = text.starts_with('+') || text.starts_with('-') ? 1 : 0;
+        if (!IsDigits(text.substr(sign)) || text.size() - sign > kMostDigits) {
+            m_sFault = "A whole number, a constant or LENGTH OF is expected in the expression";
+            return 0;
+        }
+        ++m_nAt;
+        return std::stoll(text);
+    }
+
+    // LENGTH [OF] name [OF name]... or a literal
+    Number TakeLength() {
+        ++m_nAt;
+        m_nAt += m_nAt < m_Words.size() && IsWord(m_Words[m_nAt], "OF") ? 1 : 0;
+        const std::size_t place = m_nAt;
+        if (m_nAt < m_Words.size() && m_Words[m_nAt].kind == WordKind::Literal) {
+            return static_cast<Number>(TextOfLiteral(m_Words[m_nAt++]).size());
+        }
+        const std::string name = m_nAt < m_Words.size() ? ToUpper(m_Words[m_nAt++].text) : "";
+        std::vector<std::string> groups;
+        while (m_nAt + 1 < m_Words.size() &&
+               (IsWord(m_Words[m_nAt], "OF") || IsWord(m_Words[m_nAt], "IN"))) {
+            groups.push_back(m_Words[m_nAt + 1].text);
+            m_nAt += 2;
+        }
+        DataItem* found = nullptr;
+        const auto range = m_Context.items.equal_range(name);
+        for (auto item = range.first; item != range.second; ++item) {
+            if (!IsBelow(item->second, groups)) {
+                continue;
+            }
+            if (found != nullptr) {
+                return FailAt(place, ", of which there are several");
+            }
+            found = item->second;
+        }
+        if (found == nullptr && m_Context.report.Errors() > 0) {
+            // It may have been left out with what could not be read.
+            return 1;
+        }
+        return found == nullptr ? FailAt(place, ", which does not stand before it")
+                                : static_cast<Number>(StorageOf(*found, m_Context));
+    }
+
+    Number FailAt(std::size_t place, std::string_view reason) {
+        m_nAt = place;
+        const std::string name = place < m_Words.size() ? ShownWord(m_Words[place]) : "nothing";
+        m_sFault = "LENGTH OF names " + name + std::string(reason);
+        return 0;
+    }
+
+    std::span<const TextWord> m_Words;
+    std::size_t m_nAt;
+    bool m_bPrecedence;
+    ReadingContext& m_Context;
+    std::string m_sFault;
+};
+
+}  // namespace
+
+bool IsPartOfExpression(std::span<const TextWord> words, std::size_t at) {
+    return IsMark(words, at, "(") || OperatorAt(words, at) != nullptr ||
+           (at < words.size() && IsWord(words[at], "LENGTH"));
+}
+
+ExpressionResult ReadExpression(std::span<const TextWord> words, std::size_t at, bool precedence,
+                                ReadingContext& context) {
+    return CKTExpressionReader(words, at, precedence, context).Read();
+}
