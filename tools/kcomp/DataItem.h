@@ -95,6 +95,7 @@ struct RecordArea {
 struct ProgramData {
     std::string name;
     std::deque<RecordArea> areas;  ///< in the order of the source
+    SourcePlace comment;           ///< the first that stands among the data descriptions
 };
 
 #endif

@@ -16,6 +16,7 @@
 
 #include "kcomp/CopyLibrary.h"
 #include "kcomp/DictionaryWriter.h"
+#include "kcomp/LeftOut.h"
 #include "kcomp/ProgramReader.h"
 #include "kcomp/Report.h"
 #include "kcomp/SourceReader.h"
@@ -135,6 +136,9 @@ void Run(const Arguments& arguments, CKTReport& report) {
     const std::deque<ProgramData> programs = reader.Read();
     if (report.Errors() == 0 && arguments.wantsDictionary) {
         WriteDictionary(dictionary, DictionaryOf(programs), report);
+        if (report.Errors() == 0) {
+            NoteWhatIsLeftOut(programs, report);
+        }
     }
 }
 

@@ -160,7 +160,7 @@ void CKTProgramReader::TakeProgramName() {
     } else if (m_nAt < m_Words.size() && m_Words[m_nAt].kind == WordKind::Word) {
         name = m_Words[m_nAt].text;
     }
-    m_Programs.push_back({std::move(name), {}});
+    m_Programs.push_back({std::move(name), {}, {}});
     // A contained program goes by the special names and constants of the one around it.
     if (m_nNesting++ == 0) {
         m_Context.constants.clear();
@@ -295,6 +295,7 @@ void CKTProgramReader::TakeDataEntry() {
         }
         BeginArea(file, "");
     }
+    NoteComment(end);
     m_Context.inStorage = m_Place == Place::WorkingStorage && !m_bBare;
     CKTEntryReader reader(std::span<TextWord>(m_Words).subspan(m_nAt, end - m_nAt), m_Context);
     std::unique_ptr<DataItem> item = reader.Read();
@@ -315,6 +316,13 @@ void CKTProgramReader::TakeDataEntry() {
     }
 }
 
+void CKTProgramReader::NoteComment(std::size_t end) {
+    SourcePlace& comment = Program().comment;
+    for (std::size_t at = m_nAt; at < end && comment.line == 0; ++at) {
+        comment = m_Words[at].comment;
+    }
+}
+
 void CKTProgramReader::BeginArea(bool isFile, std::string name) {
     EndArea();
     Program().areas.push_back({isFile, std::move(name), {}});
@@ -331,7 +339,7 @@ void CKTProgramReader::EndArea() {
 /// The program whose data comes now.
 ProgramData& CKTProgramReader::Program() {
     if (m_Programs.empty()) {
-        m_Programs.push_back({m_sName, {}});
+        m_Programs.push_back({m_sName, {}, {}});
     }
     return m_Programs.back();
 }

@@ -40,6 +40,7 @@ private:
     void TakeEntry();
     void TakeFile();
     void TakeDataEntry();
+    void NoteComment(std::size_t end);
     void TakeUnsupported();
     void BeginArea(bool isFile, std::string name);
     void EndArea();

@@ -61,6 +61,7 @@ private:
         bool first = true;
         for (TextWord word : by) {
             word.place = replaced.place;
+            word.comment = first ? replaced.comment : SourcePlace{};
             word.glued = first ? replaced.glued : word.glued;
             Put(std::move(word));
             first = false;

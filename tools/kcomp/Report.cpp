@@ -11,10 +11,18 @@ void CKTReport::Error(const SourcePlace& place, std::string_view text) {
         m_Out << (m_nErrors == kMostShown + 1 ? "kcomp : Error : There are more errors\n" : "");
         return;
     }
+    WriteLine(place, " : Error : ", text);
+}
+
+void CKTReport::Note(const SourcePlace& place, std::string_view text) {
+    WriteLine(place, " : Note : ", text);
+}
+
+void CKTReport::WriteLine(const SourcePlace& place, std::string_view kind, std::string_view text) {
     if (place.file.empty()) {
         m_Out << "kcomp";
     } else {
         m_Out << place.file << '(' << place.line << ')';
     }
-    m_Out << " : Error : " << text << '\n';
+    m_Out << kind << text << '\n';
 }

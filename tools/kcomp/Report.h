@@ -13,7 +13,7 @@ struct SourcePlace {
     std::size_t line = 0;   ///< counted from 1
 };
 
-/// Writes the complaints of one run, one a line, and counts them.
+/// Writes the complaints and notes of one run, one a line, and counts the complaints.
 class CKTReport {
 public:
     /// Complaints go to `out`, which must outlive the report.
@@ -26,9 +26,14 @@ public:
     /// name of this program alone. After a hundred complaints a last line says that there are more.
     void Error(const SourcePlace& place, std::string_view text);
 
+    /// Writes "FILE(LINE) : Note : text", which is not counted.
+    void Note(const SourcePlace& place, std::string_view text);
+
     [[nodiscard]] std::size_t Errors() const { return m_nErrors; }
 
 private:
+    void WriteLine(const SourcePlace& place, std::string_view kind, std::string_view text);
+
     std::ostream& m_Out;
     std::deque<std::string> m_Names;
     std::size_t m_nErrors = 0;

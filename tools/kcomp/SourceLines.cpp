@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "kcomp/Text.h"
 
@@ -14,6 +15,14 @@ constexpr std::size_t kBodyWidth = 65;  // columns 8 to 72
 
 bool IsControl(char c) {
     return (static_cast<unsigned char>(c) < ' ' && c != '\f') || c == '\x7F';
+}
+
+/// Lines of asterisks and hyphens set text apart and say nothing.
+bool SaysSomething(std::string_view comment) {
+    return std::any_of(comment.begin(), comment.end(), [](char c) {
+        return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') ||
+               static_cast<unsigned char>(c) >= 0x80;
+    });
 }
 
 /// The words of a directive line, with the marks that may stand around a value taken away.
@@ -110,12 +119,20 @@ private:
                 break;
             case '*':
             case '/':
+                NoteComment(body);
+                break;
             case 'D':
             case 'd':
                 break;
             default:
                 AddFault("Column 7 holds " + Quoted(line.substr(kIndicator, 1)) +
                          ", which is no indicator of the fixed format");
+        }
+    }
+
+    void NoteComment(std::string_view text) {
+        if (m_nComment == 0 && SaysSomething(text)) {
+            m_nComment = m_nLine;
         }
     }
 
@@ -167,11 +184,16 @@ private:
             } else if (c == '"' || c == '\'') {
                 m_cOpen = c;
             } else if (body.substr(i, 2) == "*>") {
+                NoteComment(body.substr(i));
                 break;
             }
             line.text += c == '\f' ? ' ' : c;
         }
         line.cut = m_cOpen != '\0' && m_bMore;
+        // A line that is all comment has no word that could carry it.
+        if (line.comment == 0 && line.text.find_first_not_of(' ') != line.text.npos) {
+            line.comment = std::exchange(m_nComment, 0);
+        }
     }
 
     void CloseLiteral() {
@@ -195,10 +217,11 @@ private:
     SourceFormat m_Format;
     std::vector<LogicalLine> m_Lines;
     std::size_t m_nLine = 0;
-    std::size_t m_nBody = 0;  // width of the last line's body
-    char m_cOpen = '\0';      // the quotation mark of a literal that is still open
-    char m_cHalf = '\0';      // the mark in the last column that closes a literal, or is doubled
-    bool m_bMore = false;     // the line goes on behind the last column
+    std::size_t m_nBody = 0;     // width of the last line's body
+    std::size_t m_nComment = 0;  // the first comment line since the last line of text
+    char m_cOpen = '\0';         // the quotation mark of a literal that is still open
+    char m_cHalf = '\0';         // the mark in the last column that closes a literal, or is doubled
+    bool m_bMore = false;        // the line goes on behind the last column
 };
 
 }  // namespace

@@ -21,7 +21,8 @@ struct LogicalLine {
     std::string text;
     std::vector<Segment> segments;
     std::string fault;
-    bool cut = false;  ///< a literal is open in column 72, and more text stands behind that
+    std::size_t comment = 0;  ///< the first line of a comment that stands before or in it, or 0
+    bool cut = false;         ///< a literal is open in column 72, and more text stands behind that
 };
 
 /// Tells the format of a source that names none: what stands in the first seven columns decides.

@@ -103,6 +103,9 @@ std::vector<TextWord> CKTSourceReader::Expand(std::vector<TextWord> words, Sourc
         }
         const CopyStatement copy = ReadCopy(words, at);
         std::vector<TextWord> copied = Copied(copy, format);
+        if (!copied.empty() && copied.front().comment.line == 0) {
+            copied.front().comment = words[at].comment;
+        }
         expanded.insert(expanded.end(), std::make_move_iterator(copied.begin()),
                         std::make_move_iterator(copied.end()));
         at = copy.end;

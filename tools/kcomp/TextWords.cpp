@@ -29,6 +29,7 @@ public:
             m_Words.push_back({WordKind::Fault, false, m_Line.fault, Place()});
             return;
         }
+        const std::size_t first = m_Words.size();
         while (m_nAt < m_sText.size()) {
             if (m_sText[m_nAt] == ' ') {
                 m_bGlued = false;
@@ -36,6 +37,9 @@ public:
             } else {
                 TakeWord();
             }
+        }
+        if (first < m_Words.size() && m_Line.comment > 0) {
+            m_Words[first].comment = {m_sFile, m_Line.comment};
         }
     }
 

@@ -23,6 +23,7 @@ struct TextWord {
     bool glued = false;  ///< stands right behind the word before it
     std::string text;
     SourcePlace place;
+    SourcePlace comment = {};  ///< of a comment that stands before it or in its line, if any
 };
 
 /// Splits logical lines into words; commas and semicolons between words are left out. `file` is
