@@ -1,23 +1,17 @@
 // The layout of one entry in fixed format: text in columns 8 to 72, a continued word or literal
 // marked by a hyphen in column 7.
 
-#include <algorithm>
-#include <iostream>
-#include <string>
-#include <string_view>
+#include "cobol/FixedFormat.h"
 
-#include "cobol/KTCOBOLRecordItem.h"
+#include <algorithm>
 
 namespace {
 
 constexpr int kAreaA = 7;          // characters before area A
 constexpr int kContinuation = 10;  // characters before the text of a further line
 constexpr int kLastColumn = 72;
-constexpr int kFreshEntry = 73;  // as a column: nothing of the entry is written yet
 constexpr int kMaxIndent = 48;
 constexpr std::size_t kMaxBlanks = 254;
-// A line break in a value would end the entry's line in the middle, so it counts as a blank.
-constexpr std::string_view kBlanks = " \t\r\n";
 constexpr std::string_view kCommentStart = "      *   ";
 constexpr std::string_view kContinuationStart = "      -   ";
 
@@ -58,7 +52,63 @@ int StartLine(std::string& out, bool continued, bool inLiteral, int indent, bool
     return indent + kContinuation;
 }
 
-void AppendToken(std::string& out, std::string_view token, int indent, int& column, bool comment) {
+/// The end of the word that begins at `start`, or of the blanks there, as far as they are one
+/// piece.
+std::size_t EndOfPiece(std::string_view text, std::size_t start) {
+    if (text[start] != ' ') {
+        return std::min(text.find(' ', start), text.size());
+    }
+    std::size_t end = start;
+    while (end < text.size() && end < start + kMaxBlanks && text[end] == ' ') {
+        ++end;
+    }
+    return end;
+}
+
+/// Lays out a line whose blanks are spaces; what fits its line is appended together.
+void LayOutSpaced(std::string_view line, std::string& out) {
+    const std::size_t start = line.find_first_not_of(' ');
+    line = line.substr(0, line.find_last_not_of(' ') + 1);
+    if (line.empty()) {
+        return;
+    }
+    const int indent = static_cast<int>(std::min<std::size_t>(start, kAreaA + kMaxIndent)) - kAreaA;
+    const bool comment = line.substr(start, EndOfPiece(line, start) - start) == "*";
+    int column = kFreshEntry;
+    std::size_t gathered = start;
+    for (std::size_t at = start; at < line.size();) {
+        const std::size_t end = EndOfPiece(line, at);
+        const int length = static_cast<int>(end - at);
+        if (column + length < kFreshEntry) {
+            column += length;
+        } else {
+            out += line.substr(gathered, at - gathered);
+            LayOutToken(line.substr(at, end - at), indent, column, comment, out);
+            gathered = end;
+        }
+        at = end;
+    }
+    out += line.substr(gathered);
+}
+
+}  // namespace
+
+void LayOutEntry(std::string_view line, std::string& out) {
+    // A line break in a value would end the entry's line in the middle, so it counts as a blank.
+    static constexpr std::string_view kOtherBlanks = "\t\r\n";
+    const auto isOther = [](char c) { return kOtherBlanks.find(c) != std::string_view::npos; };
+    if (std::all_of(kOtherBlanks.begin(), kOtherBlanks.end(),
+                    [&](char c) { return line.find(c) == std::string_view::npos; })) {
+        LayOutSpaced(line, out);
+    } else {
+        std::string spaced(line);
+        std::replace_if(spaced.begin(), spaced.end(), isOther, ' ');
+        LayOutSpaced(spaced, out);
+    }
+    out += '\n';
+}
+
+void LayOutToken(std::string_view token, int indent, int& column, bool comment, std::string& out) {
     indent = std::clamp(indent, 0, kMaxIndent);
     const bool fits = static_cast<int>(token.size()) + column < kFreshEntry;
     const std::size_t literalEnd = fits ? 0 : LiteralEnd(token);
@@ -79,53 +129,4 @@ void AppendToken(std::string& out, std::string_view token, int indent, int& colu
         }
         written += room;
     }
-}
-
-void AppendBlanks(std::string& out, std::size_t count, int indent, int& column, bool comment) {
-    while (count > 0) {
-        const std::size_t piece = std::min(count, kMaxBlanks);
-        AppendToken(out, std::string(piece, ' '), indent, column, comment);
-        count -= piece;
-    }
-}
-
-void WriteText(std::ostream& out, std::string_view text) {
-    out.write(text.data(), static_cast<std::streamsize>(text.size()));
-}
-
-}  // namespace
-
-void CKTCOBOLRecordItem::OutputFixedFormatCOBOL(const char* line, std::ostream& out) {
-    const std::string_view text(line);
-    std::string entry;
-    std::size_t start = text.find_first_not_of(kBlanks);
-    if (start != std::string_view::npos) {
-        const int indent =
-            static_cast<int>(std::min<std::size_t>(start, kAreaA + kMaxIndent)) - kAreaA;
-        std::size_t end = std::min(text.find_first_of(kBlanks, start), text.size());
-        const bool comment = text.substr(start, end - start) == "*";
-        int column = kFreshEntry;
-        for (;;) {
-            AppendToken(entry, text.substr(start, end - start), indent, column, comment);
-            start = text.find_first_not_of(kBlanks, end);
-            if (start == std::string_view::npos) {
-                break;
-            }
-            AppendBlanks(entry, start - end, indent, column, comment);
-            end = std::min(text.find_first_of(kBlanks, start), text.size());
-        }
-    }
-    entry += '\n';
-    WriteText(out.fail() ? std::cout : out, entry);
-}
-
-void CKTCOBOLRecordItem::OutputCOBOLToken(const char* token, std::ostream& out, int indent,
-                                          int& column, bool comment) {
-    if (out.fail()) {
-        return;
-    }
-    std::string text;
-    AppendToken(text, token, indent, column, comment);
-    WriteText(out, text);
-    out.flush();
 }

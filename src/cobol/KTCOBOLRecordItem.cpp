@@ -1,51 +1,72 @@
+// Which items can be written, the names of an item, and the stated entry points to the writer.
+
 #include "cobol/KTCOBOLRecordItem.h"
 
 #include <algorithm>
 #include <iostream>
 
+#include "cobol/FixedFormat.h"
+#include "cobol/RecordWriter.h"
 #include "cobol/UniqueNames.h"
 #include "support/Console.h"
-#include "support/Progress.h"
 #include "support/Text.h"
 
-template <typename ChildTest>
-CKTCOBOLRecordItem::Validity CKTCOBOLRecordItem::Judge(ChildTest canWrite) const {
+namespace {
+
+void WriteText(std::ostream& out, std::string_view text) {
+    out.write(text.data(), static_cast<std::streamsize>(text.size()));
+}
+
+}  // namespace
+
+CKTCOBOLRecordItem::Form CKTCOBOLRecordItem::FormOf() const {
     if (m_nLevel < 0 || m_sMinOccurs.empty()) {
-        return Validity::Unusable;
+        return Form::Unusable;
     }
     if (IsCondition() && !m_sDataName.empty() && !m_sValue.empty()) {
-        return Validity::Valid;
+        return Form::Complete;
     }
     if (m_sDataName.empty() || m_nLevel < 1 || m_nLevel > kMaxLevel) {
-        return Validity::Unusable;
+        return Form::Unusable;
     }
-    if (!m_sPicType.empty() && !m_sPicLength.empty()) {
-        return Validity::Valid;
+    const bool hasPicture = !m_sPicType.empty();
+    if ((hasPicture && !m_sPicLength.empty()) ||
+        (!hasPicture && (m_sUsage == "COMP-1" || m_sUsage == "COMP-2"))) {
+        return Form::Complete;
     }
-    if (m_sPicType.empty() && (m_sUsage == "COMP-1" || m_sUsage == "COMP-2")) {
-        return Validity::Valid;
-    }
-    const bool group = m_sPicType.empty() && m_sPicLength.empty() &&
-                       std::any_of(m_Children.begin(), m_Children.end(), [&](const auto& child) {
-                           return !child->IsCondition() && canWrite(*child);
-                       });
-    return group ? Validity::Valid : Validity::EmptyStructure;
+    return !hasPicture && m_sPicLength.empty() ? Form::Group : Form::Incomplete;
 }
 
 bool CKTCOBOLRecordItem::IsValidCOBOLItem() {
-    const Validity validity =
-        Judge([](CKTCOBOLRecordItem& child) { return child.IsValidCOBOLItem(); });
-    if (validity == Validity::EmptyStructure && !m_bReported) {
+    const Form form = FormOf();
+    if (form == Form::Complete || form == Form::Unusable) {
+        return form == Form::Complete;
+    }
+    const bool group =
+        form == Form::Group && std::any_of(m_Children.begin(), m_Children.end(), [](auto& child) {
+            return !child->IsCondition() && child->IsValidCOBOLItem();
+        });
+    if (!group) {
+        ReportEmptyStructure();
+    }
+    return group;
+}
+
+bool CKTCOBOLRecordItem::CanBeWritten() const {
+    const Form form = FormOf();
+    return form == Form::Complete ||
+           (form == Form::Group &&
+            std::any_of(m_Children.begin(), m_Children.end(), [](const auto& child) {
+                return !child->IsCondition() && child->CanBeWritten();
+            }));
+}
+
+void CKTCOBOLRecordItem::ReportEmptyStructure() {
+    if (!m_bReported) {
         m_bReported = true;
         WriteLine(std::cerr, {"Warning : Unable to convert schema element \"", m_sDataName,
                               "\" to COBOL (empty structure)"});
     }
-    return validity == Validity::Valid;
-}
-
-bool CKTCOBOLRecordItem::CanBeWritten() const {
-    return Judge([](const CKTCOBOLRecordItem& child) { return child.CanBeWritten(); }) ==
-           Validity::Valid;
 }
 
 bool CKTCOBOLRecordItem::FindRecordItemByName(CKTCOBOLRecordItem* searchIn,
@@ -69,9 +90,9 @@ bool CKTCOBOLRecordItem::FindRecordItemByName(CKTCOBOLRecordItem* searchIn,
     return false;
 }
 
-void CKTCOBOLRecordItem::setCOBOLDataName(std::string& target, std::string_view name) {
+void CKTCOBOLRecordItem::setCOBOLDataName(CKTItemText& target, std::string_view name) {
     target = name;
-    std::replace(target.begin(), target.end(), '_', '-');
+    target.Replace('_', '-');
 }
 
 CKTCOBOLRecordItem* CKTCOBOLRecordItem::AddChild(std::unique_ptr<CKTCOBOLRecordItem> child) {
@@ -90,27 +111,35 @@ void CKTCOBOLRecordItem::RemoveChild(const CKTCOBOLRecordItem* child) {
 }
 
 std::string CKTCOBOLRecordItem::PictureClause() const {
+    std::string clause;
+    AppendPictureClause(clause);
+    return clause;
+}
+
+void CKTCOBOLRecordItem::AppendPictureClause(std::string& line) const {
     if (m_sPicType.empty()) {
-        return {};
+        return;
     }
     const long long fraction = ReadInteger(m_sFractionDigits);
     const bool decimals = m_bHasFraction && fraction > 0;
-    std::string count = m_sPicLength;
-    bool integerDigits = true;
-    if (m_nDigits != -1) {
-        integerDigits = m_nDigits > fraction || !decimals;
-        count = std::to_string(m_nDigits - fraction);
-    }
-    std::string clause = " PIC ";
-    if (integerDigits) {
-        clause += m_sPicType + "(" + count + ")";
-    } else if (m_sPicType.starts_with('S')) {
-        clause += 'S';
+    line += " PIC ";
+    if (m_nDigits == -1 || m_nDigits > fraction || !decimals) {
+        line += m_sPicType;
+        line += '(';
+        if (m_nDigits == -1) {
+            line += m_sPicLength;
+        } else {
+            line += std::to_string(m_nDigits - fraction);
+        }
+        line += ')';
+    } else if (m_sPicType.View().starts_with('S')) {
+        line += 'S';
     }
     if (decimals) {
-        clause += "V9(" + std::to_string(fraction) + ")";
+        line += "V9(";
+        line += std::to_string(fraction);
+        line += ')';
     }
-    return clause;
 }
 
 bool CKTCOBOLRecordItem::OutputCOBOLItem(CKTCOBOLRecordItem* item, const std::string& prefix,
@@ -119,78 +148,25 @@ bool CKTCOBOLRecordItem::OutputCOBOLItem(CKTCOBOLRecordItem* item, const std::st
         return false;
     }
     if (!unique) {
-        return item->OutputWithNames(prefix, countIn, nullptr);
+        return CKTRecordWriter(prefix, countIn, nullptr).Write(*item);
     }
     CKTUniqueNames names(*item);
-    return item->OutputWithNames(prefix, countIn, &names);
+    return CKTRecordWriter(prefix, countIn, &names).Write(*item);
 }
 
-bool CKTCOBOLRecordItem::OutputWithNames(const std::string& prefix, bool countIn,
-                                         CKTUniqueNames* names) {
-    if (!IsValidCOBOLItem()) {
-        if (names != nullptr) {
-            names->AddBelow(*this);
-        }
-        return false;
-    }
-    if (names != nullptr) {
-        names->MakeUnique(*this);
-    }
-    OutputFixedFormatCOBOL(BuildLine(prefix, countIn).c_str(), std::cout);
-    ReportItemsWritten(1);
-    for (const auto& child : m_Children) {
-        child->OutputWithNames(prefix, countIn, names);
-    }
-    return true;
+void CKTCOBOLRecordItem::OutputFixedFormatCOBOL(const char* line, std::ostream& out) {
+    std::string entry;
+    LayOutEntry(line, entry);
+    WriteText(out.fail() ? std::cout : out, entry);
 }
 
-std::string CKTCOBOLRecordItem::BuildLine(const std::string& prefix, bool countIn) const {
-    std::string line(static_cast<std::size_t>(std::max(m_nDepth, 0)), ' ');
-    line += (m_nLevel <= 9 ? "0" : "") + std::to_string(m_nLevel);
-    line += " " + prefix + m_sDataName;
-    if (IsCondition()) {
-        line += " value is \"";
-        for (const char c : m_sValue) {
-            line.append(c == '"' ? 2 : 1, c);
-        }
-        line += '"';
-    }
-    AppendRedefines(line, prefix);
-    line += PictureClause();
-    if (!m_sUsage.empty()) {
-        line += " USAGE " + m_sUsage;
-    }
-    if (!m_sMaxOccurs.empty() && m_sMaxOccurs != "1" && m_sMaxOccurs != "unbounded") {
-        line += " occurs " + m_sMaxOccurs + " times";
-    }
-    AppendXmlClauses(line, countIn);
-    line += '.';
-    return line;
-}
-
-void CKTCOBOLRecordItem::AppendRedefines(std::string& line, const std::string& prefix) const {
-    if (m_pRedefines == nullptr) {
+void CKTCOBOLRecordItem::OutputCOBOLToken(const char* token, std::ostream& out, int indent,
+                                          int& column, bool comment) {
+    if (out.fail()) {
         return;
     }
-    if (m_pRedefines->m_sDataName.empty()) {
-        WriteLine(std::cerr, {"Error : Redefines specified, but no COBOL name present"});
-    } else {
-        line += " redefines " + prefix + m_pRedefines->m_sDataName;
-    }
-}
-
-void CKTCOBOLRecordItem::AppendXmlClauses(std::string& line, bool countIn) const {
-    if (!m_sXMLName.empty()) {
-        line += " identified by \"" + m_sXMLName + "\"";
-    }
-    if (!m_sNamespace.empty() &&
-        (m_pParent == nullptr || m_pParent->m_sNamespace != m_sNamespace)) {
-        line += " namespace is \"" + m_sNamespace + "\"";
-    }
-    if (m_bIsAttribute) {
-        line += " is attribute";
-    }
-    if (countIn && !m_sCountInName.empty()) {
-        line += " count in " + m_sCountInName;
-    }
+    std::string text;
+    LayOutToken(token, indent, column, comment, text);
+    WriteText(out, text);
+    out.flush();
 }

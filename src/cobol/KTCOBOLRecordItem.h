@@ -1,24 +1,35 @@
 #ifndef DORVEX_COBOL_KTCOBOLRECORDITEM_H
 #define DORVEX_COBOL_KTCOBOLRECORDITEM_H
 
+#include <cstdint>
 #include <iosfwd>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
-class CKTUniqueNames;
+#include "cobol/ItemText.h"
+
 class CKTXMLElement;
 
 /// One COBOL data item with the XML facts that its XML clauses need: a plain record, in a tree for
-/// each level-01 record. An item owns its children; all other pointers are borrowed.
+/// each level-01 record. An item owns its children; all other pointers are borrowed. A record may
+/// have a million items, so texts that stand in the schema's tree are shared with it.
 class CKTCOBOLRecordItem {
 public:
     static constexpr int kMaxLevel = 49;
     static constexpr int kConditionLevel = 88;
 
+    /// What an item can be written as, its children aside.
+    enum class Form {
+        Unusable,   ///< no level, name or occurrence that an entry could have
+        Complete,   ///< a condition name, or an elementary item
+        Group,      ///< a group, if one of its children can be written that is no condition name
+        Incomplete  ///< something that is missing a picture
+    };
+
     /// How a derivation gave the item its content.
-    enum ContentKind { OTHER_CONTENT = 0, COMPLEX_CONTENT = 1, SIMPLE_CONTENT = 2 };
+    enum ContentKind : std::uint8_t { OTHER_CONTENT = 0, COMPLEX_CONTENT = 1, SIMPLE_CONTENT = 2 };
 
     CKTCOBOLRecordItem() = default;
     virtual ~CKTCOBOLRecordItem() = default;
@@ -33,6 +44,12 @@ public:
     /// The answer of IsValidCOBOLItem without its report.
     [[nodiscard]] bool CanBeWritten() const;
 
+    /// The part of the answer that does not depend on other items.
+    [[nodiscard]] Form FormOf() const;
+
+    /// Writes the warning that the item has no content, unless it was written before.
+    void ReportEmptyStructure();
+
     /// Searches `searchIn` in pre-order for a valid item below it with the data name of `item`, and
     /// stops at `item` itself. True with `reached` still false: an earlier namesake exists; true
     /// with `reached` set: `item` comes first.
@@ -40,7 +57,7 @@ public:
                                      bool& reached);
 
     /// Sets `target` to `name` with every underscore replaced by a hyphen.
-    static void setCOBOLDataName(std::string& target, std::string_view name);
+    static void setCOBOLDataName(CKTItemText& target, std::string_view name);
 
     /// Writes `item` and what is below it to standard output, each data name with `prefix` before
     /// it, count-in clauses when `countIn`, names made unique within the record when `unique`.
@@ -71,43 +88,36 @@ public:
 
     /// The PICTURE clause with the blank before it; empty for an item without a picture.
     [[nodiscard]] std::string PictureClause() const;
+    void AppendPictureClause(std::string& line) const;
 
     int m_nLevel = -1;              ///< 1 to 49, or 88; negative: not in use
     int m_nDigits = -1;             ///< when not -1, replaces m_sPicLength in the picture
-    std::string m_sFractionDigits;  ///< digits after the decimal point
-    std::string m_sDataName;        ///< set through setCOBOLDataName
-    std::string m_sPicType;         ///< picture symbol: "X", "9", "S9"
-    std::string m_sPicLength;       ///< picture repetition count
-    std::string m_sXMLName;         ///< the "identified by" name
-    std::string m_sNamespace;       ///< the "namespace is" URI
-    std::string m_sMinOccurs;       ///< as the schema writes it; an item without it is not valid
-    std::string m_sMaxOccurs;       ///< as the schema writes it
-    std::string m_sCountInName;     ///< the data name of the "count in" field
-    std::string m_sValue;           ///< the value of a condition name
-    std::string m_sUsage;           ///< the USAGE phrase, empty for display items
+    int m_nDepth = 0;               ///< blanks before the level in the built line
     bool m_bHasFraction = false;    ///< the picture may take decimal places
     bool m_bIsAttribute = false;    ///< the item comes from an XML attribute
     bool m_bIsReference = false;    ///< the item waits for the declaration that it refers to
     bool m_bHasMixedValue = false;  ///< an item for mixed content was made below it
-    ContentKind m_nContentKind = OTHER_CONTENT;
-    int m_nDepth = 0;                                 ///< blanks before the level in the built line
+    CKTItemText m_sFractionDigits;  ///< digits after the decimal point
+    CKTItemText m_sDataName;        ///< set through setCOBOLDataName
+    CKTItemText m_sPicType;         ///< picture symbol: "X", "9", "S9"
+    CKTItemText m_sPicLength;       ///< picture repetition count
+    CKTItemText m_sXMLName;         ///< the "identified by" name
+    CKTItemText m_sNamespace;       ///< the "namespace is" URI
+    CKTItemText m_sMinOccurs;       ///< as the schema writes it; an item without it is not valid
+    CKTItemText m_sMaxOccurs;       ///< as the schema writes it
+    CKTItemText m_sCountInName;     ///< the data name of the "count in" field
+    CKTItemText m_sValue;           ///< the value of a condition name
+    CKTItemText m_sUsage;           ///< the USAGE phrase, empty for display items
     CKTCOBOLRecordItem* m_pRedefines = nullptr;       ///< the item that this one redefines
     CKTCOBOLRecordItem* m_pValueItem = nullptr;       ///< the child that the value has moved to
     CKTCOBOLRecordItem* m_pParent = nullptr;          ///< null for a level-01 item
     const CKTXMLElement* m_pSchemaElement = nullptr;  ///< the declaration that the item stands for
     const CKTXMLElement* m_pSourceElement = nullptr;  ///< the type definition walked into the item
     std::vector<std::unique_ptr<CKTCOBOLRecordItem>> m_Children;
+    ContentKind m_nContentKind = OTHER_CONTENT;
+    bool m_bFoundValid = false;  ///< the writer has seen that the item can be written
 
 private:
-    enum class Validity { Valid, Unusable, EmptyStructure };
-
-    template <typename ChildTest>
-    Validity Judge(ChildTest canWrite) const;
-    bool OutputWithNames(const std::string& prefix, bool countIn, CKTUniqueNames* names);
-    [[nodiscard]] std::string BuildLine(const std::string& prefix, bool countIn) const;
-    void AppendRedefines(std::string& line, const std::string& prefix) const;
-    void AppendXmlClauses(std::string& line, bool countIn) const;
-
     bool m_bReported = false;
 };
 

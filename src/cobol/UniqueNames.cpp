@@ -1,5 +1,7 @@
 #include "cobol/UniqueNames.h"
 
+#include <string>
+
 #include "cobol/KTCOBOLRecordItem.h"
 
 CKTUniqueNames::CKTUniqueNames(const CKTCOBOLRecordItem& first) {
@@ -32,17 +34,16 @@ void CKTUniqueNames::MakeUnique(CKTCOBOLRecordItem& item) {
     if (item.m_pParent == nullptr) {
         return;
     }
-    if (m_Used.contains(item.m_sDataName)) {
-        const std::string base = item.m_sDataName;
+    if (const auto earlier = m_Used.find(item.m_sDataName); earlier != m_Used.end()) {
+        const std::string_view base = *earlier;
         // Used names stay used, so the numbers below the last one given are never free again.
         int& number = m_NextNumber[base];
         do {
             ++number;
-            CKTCOBOLRecordItem::setCOBOLDataName(item.m_sDataName,
-                                                 base + "-" + std::to_string(number));
+            item.m_sDataName.Assign(base, "-" + std::to_string(number));
         } while (m_Used.contains(item.m_sDataName));
         if (!item.m_sCountInName.empty()) {
-            CKTCOBOLRecordItem::setCOBOLDataName(item.m_sCountInName, item.m_sDataName + "-count");
+            item.m_sCountInName.Assign(item.m_sDataName, "-count");
         }
     }
     m_Used.insert(item.m_sDataName);

@@ -1,14 +1,15 @@
 #ifndef DORVEX_COBOL_UNIQUENAMES_H
 #define DORVEX_COBOL_UNIQUENAMES_H
 
-#include <string>
+#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 
 class CKTCOBOLRecordItem;
 
 /// The data names that come before the item being written, in the pre-order of its record. It
-/// answers what FindRecordItemByName would, at the same cost however many items there are.
+/// answers what FindRecordItemByName would, at the same cost however many items there are. The
+/// record outlives it.
 class CKTUniqueNames {
 public:
     /// Collects the names before `first` in its record; writing starts there.
@@ -25,8 +26,9 @@ public:
 private:
     bool AddBefore(const CKTCOBOLRecordItem& searchIn, const CKTCOBOLRecordItem& stop);
 
-    std::unordered_set<std::string> m_Used;
-    std::unordered_map<std::string, int> m_NextNumber;
+    // Views of the names of items that are not renamed any more.
+    std::unordered_set<std::string_view> m_Used;
+    std::unordered_map<std::string_view, int> m_NextNumber;
 };
 
 #endif

@@ -1,22 +1,12 @@
 // Element and attribute declarations: where record items are born.
 
+#include <array>
 #include <iostream>
 
 #include "schema/ActiveGuard.h"
 #include "schema/KTCOBOLGenerator.h"
 #include "schema/Occurrence.h"
 #include "support/Console.h"
-
-namespace {
-
-std::string HeadKey(std::string_view name, std::string_view uri) {
-    std::string key(name);
-    key += '\n';
-    key += uri;
-    return key;
-}
-
-}  // namespace
 
 /// What tells the two kinds of declaration apart.
 struct CKTCOBOLGenerator::DeclarationTraits {
@@ -26,15 +16,53 @@ struct CKTCOBOLGenerator::DeclarationTraits {
     std::string_view notFoundEnd;
 };
 
+/// The attributes of a declaration that count, read in one pass; null for those that are not there.
+struct CKTCOBOLGenerator::WrittenDeclaration {
+    const std::string* name = nullptr;
+    const std::string* ref = nullptr;
+    const std::string* type = nullptr;
+    const std::string* minOccurs = nullptr;
+    const std::string* maxOccurs = nullptr;
+    const std::string* defaultValue = nullptr;
+    const std::string* fixed = nullptr;
+    const std::string* use = nullptr;
+
+    explicit WrittenDeclaration(const CKTXMLElement* declaration);
+};
+
+CKTCOBOLGenerator::WrittenDeclaration::WrittenDeclaration(const CKTXMLElement* declaration) {
+    using Field = const std::string* WrittenDeclaration::*;
+    static constexpr std::array<std::pair<std::string_view, Field>, 8> kFields = {{
+        {"name", &WrittenDeclaration::name},
+        {"ref", &WrittenDeclaration::ref},
+        {"type", &WrittenDeclaration::type},
+        {"minOccurs", &WrittenDeclaration::minOccurs},
+        {"maxOccurs", &WrittenDeclaration::maxOccurs},
+        {"default", &WrittenDeclaration::defaultValue},
+        {"fixed", &WrittenDeclaration::fixed},
+        {"use", &WrittenDeclaration::use},
+    }};
+    for (const CKTXMLAttribute* a = declaration->getFirstAttr(); a != nullptr;
+         a = a->getNextSibling()) {
+        for (const auto& [attributeName, field] : kFields) {
+            if (a->getName() == attributeName) {
+                this->*field = &a->getValue();
+                break;
+            }
+        }
+    }
+}
+
 CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementElement(CKTXMLElement* element, unsigned level,
                                                              unsigned indent, Item** current) {
     static constexpr DeclarationTraits kElement = {
         ELEMENTS, false, "Error : Cannot find referenced element ",
         ".  Element will not be converted to COBOL record item."};
-    if (IsNever(element)) {
+    const WrittenDeclaration written(element);
+    if (IsNever(written.maxOccurs)) {
         return *current;
     }
-    return ProcessDeclaration(element, kElement, level, indent, current);
+    return ProcessDeclaration(element, kElement, written, level, indent, current);
 }
 
 CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessAttributeElement(CKTXMLElement* element,
@@ -42,36 +70,34 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessAttributeElement(CKTXMLElement* el
                                                                Item** current) {
     static constexpr DeclarationTraits kAttribute = {ATTRIBUTES, true,
                                                      "Error : Cannot find group reference ", ""};
-    std::string use;
-    if (findAttrByName(element, "use", use) && use == "prohibited") {
+    const WrittenDeclaration written(element);
+    if (written.use != nullptr && *written.use == "prohibited") {
         return nullptr;
     }
-    return ProcessDeclaration(element, kAttribute, level, indent, current);
+    return ProcessDeclaration(element, kAttribute, written, level, indent, current);
 }
 
 CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessDeclaration(CKTXMLElement* element,
                                                           const DeclarationTraits& traits,
+                                                          const WrittenDeclaration& written,
                                                           unsigned level, unsigned indent,
                                                           Item** current) {
     Item* item = *current;
     const bool reused = item != nullptr && item->m_bIsReference &&
                         getElementType(item->m_pSchemaElement) == getElementType(element);
     if (!reused) {
-        std::string shownName;
-        if (!findAttrByName(element, "name", shownName)) {
-            findAttrByName(element, "ref", shownName);
-        }
-        item = MakeItem(*current, shownName, level, indent);
+        const std::string* shown = written.name != nullptr ? written.name : written.ref;
+        item = MakeItem(*current, shown == nullptr ? std::string_view() : *shown, level, indent);
         if (item == nullptr) {
             return nullptr;
         }
         item->m_bIsAttribute = traits.isAttribute;
     }
-    FillFromDeclaration(item, element, reused);
+    FillFromDeclaration(item, element, written, reused);
     // A reused item is filled on behalf of the reference, which has to learn of its removal.
     Item* own = item;
     Item** cursor = reused ? current : &own;
-    const bool filled = FillContent(element, traits, level, indent, cursor);
+    const bool filled = FillContent(element, traits, written, level, indent, cursor);
     if (*cursor != item) {
         return nullptr;
     }
@@ -82,39 +108,44 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessDeclaration(CKTXMLElement* element
 }
 
 void CKTCOBOLGenerator::FillFromDeclaration(Item* item, const CKTXMLElement* element,
-                                            bool reused) const {
+                                            const WrittenDeclaration& written, bool reused) {
     item->m_pSchemaElement = element;
     item->m_bIsReference = false;
     if (!reused) {
-        if (!findAttrByName(element, "minOccurs", item->m_sMinOccurs)) {
-            item->m_sMinOccurs = "1";
+        item->m_sMinOccurs = "1";
+        if (written.minOccurs != nullptr) {
+            item->m_sMinOccurs.Share(*written.minOccurs);
         }
-        findAttrByName(element, "maxOccurs", item->m_sMaxOccurs);
+        if (written.maxOccurs != nullptr) {
+            item->m_sMaxOccurs.Share(*written.maxOccurs);
+        }
     }
-    if (!findAttrByName(element, "default", item->m_sValue)) {
-        findAttrByName(element, "fixed", item->m_sValue);
+    item->m_sValue = std::string_view();
+    if (written.defaultValue != nullptr) {
+        item->m_sValue.Share(*written.defaultValue);
+    } else if (written.fixed != nullptr) {
+        item->m_sValue.Share(*written.fixed);
     }
-    std::string name;
-    if (findAttrByName(element, "name", name)) {
-        Item::setCOBOLDataName(item->m_sDataName, name);
-        Item::setCOBOLDataName(item->m_sCountInName, name + "-count");
-        item->m_sXMLName = std::move(name);
+    if (written.name != nullptr) {
+        item->m_sXMLName.Share(*written.name);
+        item->m_sDataName.Share(*written.name);
+        item->m_sDataName.Replace('_', '-');
+        item->m_sCountInName.Assign(item->m_sDataName, "-count");
     }
-    getElementNamespace(element, item->m_sNamespace);
+    item->m_sNamespace.Share(NamespaceOf(element));
 }
 
 bool CKTCOBOLGenerator::FillContent(CKTXMLElement* element, const DeclarationTraits& traits,
-                                    unsigned level, unsigned indent, Item** cursor) {
-    std::string ref;
-    if (findAttrByName(element, "ref", ref)) {
-        return FillFromReference(element, ref, traits, level, indent, cursor);
+                                    const WrittenDeclaration& written, unsigned level,
+                                    unsigned indent, Item** cursor) {
+    if (written.ref != nullptr) {
+        return FillFromReference(element, *written.ref, traits, level, indent, cursor);
     }
     if (!traits.isAttribute && elementHasSubGroup(*cursor)) {
         WriteLine(std::cerr, {"Warning : substitionGroup encountered"});
     }
-    std::string type;
-    if (findAttrByName(element, "type", type)) {
-        return FillFromType(element, type, traits, level, indent, cursor);
+    if (written.type != nullptr) {
+        return FillFromType(element, *written.type, traits, level, indent, cursor);
     }
     WalkChildren(element, level, indent, cursor);
     return true;
@@ -123,12 +154,12 @@ bool CKTCOBOLGenerator::FillContent(CKTXMLElement* element, const DeclarationTra
 bool CKTCOBOLGenerator::FillFromReference(const CKTXMLElement* element, const std::string& ref,
                                           const DeclarationTraits& traits, unsigned level,
                                           unsigned indent, Item** cursor) {
-    CKTXMLElement* target = findElementByName(element, ref, traits.list);
+    CKTXMLElement* target = FindReferenced(element, ref, traits.list);
     if (target == nullptr) {
         WriteLine(std::cerr, {traits.notFoundStart, ref, traits.notFoundEnd});
         return false;
     }
-    if (!traits.isAttribute && isRecursivePattern(*cursor)) {
+    if (!traits.isAttribute && isRecursivePattern(*cursor, target)) {
         WriteLine(std::cerr,
                   {"Error : Cannot convert recursive reference of ", ref, " to COBOL record"});
         return false;
@@ -141,10 +172,12 @@ bool CKTCOBOLGenerator::FillFromType(const CKTXMLElement* element, const std::st
                                      const DeclarationTraits& traits, unsigned level,
                                      unsigned indent, Item** cursor) {
     Item* item = *cursor;
-    if (ConvertBuiltIn(item, element, type)) {
+    const NameMeaning& meaning = MeaningOfType(element, type);
+    if (meaning.builtIn != nullptr) {
+        TakeBuiltIn(item, *meaning.builtIn);
         return true;
     }
-    CKTXMLElement* definition = FindType(element, type);
+    CKTXMLElement* definition = meaning.declaration;
     if (definition == nullptr) {
         WriteLine(std::cerr,
                   {"Warning : An unsupported type ", type,
@@ -152,7 +185,7 @@ bool CKTCOBOLGenerator::FillFromType(const CKTXMLElement* element, const std::st
                    "item."});
         return false;
     }
-    if (!traits.isAttribute && isRecursivePattern(item)) {
+    if (!traits.isAttribute && isRecursivePattern(item, meaning.complexType)) {
         WriteLine(std::cerr,
                   {"Error : Cannot convert recursive reference of ", type, " to COBOL record"});
         return false;
@@ -162,19 +195,10 @@ bool CKTCOBOLGenerator::FillFromType(const CKTXMLElement* element, const std::st
     return true;
 }
 
-bool CKTCOBOLGenerator::isRecursivePattern(const Item* item) {
-    if (item == nullptr) {
-        return false;
-    }
-    const CKTXMLElement* declaration = item->m_pSchemaElement;
-    const CKTXMLElement* target = nullptr;
-    std::string name;
-    if (findAttrByName(declaration, "ref", name)) {
-        target = findElementByName(declaration, name, ELEMENTS);
-    } else if (findAttrByName(declaration, "type", name)) {
-        target = findElementByName(declaration, name, COMPLEX_TYPES);
-    }
-    if (target == nullptr) {
+/// Says whether `target`, which the declaration of `item` refers to or has as its complex type
+/// (null for neither), is being converted above `item`.
+bool CKTCOBOLGenerator::isRecursivePattern(const Item* item, const CKTXMLElement* target) {
+    if (item == nullptr || target == nullptr) {
         return false;
     }
     for (const Item* up = item->m_pParent; up != nullptr; up = up->m_pParent) {
@@ -192,13 +216,12 @@ bool CKTCOBOLGenerator::elementHasSubGroup(const Item* item) {
     if (!m_bSubstitutionHeadsKnown) {
         m_bSubstitutionHeadsKnown = true;
         for (const CKTXMLElement* member : m_pDocument->getList(SUBSTITUTION_MEMBERS)) {
-            std::string uri;
-            const std::string& head = member->getAttribute("substitutionGroup")->getValue();
-            if (getTypeNamespace(member, head, uri)) {
-                m_SubstitutionHeads.insert(HeadKey(CKTXMLNode::getNonQualifiedName(head), uri));
+            const std::string& head = *AttributeValue(member, "substitutionGroup");
+            if (const std::string* uri = FindTypeNamespace(member, head)) {
+                m_SubstitutionHeads.emplace(CKTXMLNode::getNonQualifiedName(head), *uri);
             }
         }
     }
     return !m_SubstitutionHeads.empty() &&
-           m_SubstitutionHeads.contains(HeadKey(item->m_sXMLName, item->m_sNamespace));
+           m_SubstitutionHeads.contains({item->m_sXMLName, item->m_sNamespace});
 }

@@ -56,17 +56,21 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementRestriction(const CKTXMLEle
                                                                  Item** current) {
     Item* item = *current;
     SetContentKind(item, restriction);
-    std::string base;
-    if (!findAttrByName(restriction, "base", base)) {
+    const std::string* base = AttributeValue(restriction, "base");
+    if (base == nullptr) {
         RestrictOwnContent(restriction, level, indent, current);
-    } else if (ConvertBuiltIn(item, restriction, base)) {
+        return *current;
+    }
+    const NameMeaning& meaning = MeaningOfBase(restriction, *base);
+    if (meaning.builtIn != nullptr) {
+        TakeBuiltIn(item, *meaning.builtIn);
         ProcessElementFacets(item, restriction);
-    } else if (IsOpenType(restriction, base, true)) {
+    } else if (IsOpenType(restriction, *base, true)) {
         WalkChildren(restriction, level, indent, current);
-    } else if (CKTXMLElement* type = FindBaseType(restriction, base)) {
-        RestrictNamedType(restriction, type, base, level, indent, current);
+    } else if (meaning.declaration != nullptr) {
+        RestrictNamedType(restriction, meaning.declaration, *base, level, indent, current);
     } else {
-        ReportMissingBase(base);
+        ReportMissingBase(*base);
         WalkChildren(restriction, level, indent, current);
     }
     return *current;
@@ -119,17 +123,19 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementExtension(const CKTXMLEleme
                                                                Item** current) {
     Item* item = *current;
     SetContentKind(item, extension);
-    std::string base;
-    if (!findAttrByName(extension, "base", base)) {
+    const std::string* base = AttributeValue(extension, "base");
+    if (base == nullptr) {
         return item;
     }
-    if (!ConvertBuiltIn(item, extension, base) && !IsOpenType(extension, base, false)) {
-        CKTXMLElement* type = FindBaseType(extension, base);
-        if (type == nullptr) {
-            ReportMissingBase(base);
+    const NameMeaning& meaning = MeaningOfBase(extension, *base);
+    if (meaning.builtIn != nullptr) {
+        TakeBuiltIn(item, *meaning.builtIn);
+    } else if (!IsOpenType(extension, *base, false)) {
+        if (meaning.declaration == nullptr) {
+            ReportMissingBase(*base);
             return nullptr;
         }
-        WalkBaseType(type, base, level, indent, current);
+        WalkBaseType(meaning.declaration, *base, level, indent, current);
     }
     if (*current == item) {
         WalkChildren(extension, level, indent, current);
@@ -167,10 +173,14 @@ void CKTCOBOLGenerator::TakeBaseValue(Item* item, CKTXMLElement* type) {
         type = getElementType(step) == GeneratorKind::Restriction
                    ? FindChild(step, GeneratorKind::SimpleType)
                    : nullptr;
-        std::string base;
-        if (type == nullptr && findAttrByName(step, "base", base)) {
-            converted = ConvertBuiltIn(item, step, base);
-            type = FindBaseType(step, base);
+        const std::string* base = type == nullptr ? AttributeValue(step, "base") : nullptr;
+        if (base != nullptr) {
+            const NameMeaning& meaning = MeaningOfBase(step, *base);
+            converted = meaning.builtIn != nullptr;
+            if (converted) {
+                TakeBuiltIn(item, *meaning.builtIn);
+            }
+            type = meaning.declaration;
         }
     }
     for (auto step = steps.rbegin(); converted && step != steps.rend(); ++step) {

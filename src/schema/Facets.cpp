@@ -12,7 +12,7 @@
 
 namespace {
 
-const std::string& ShownName(const CKTCOBOLRecordItem* item) {
+std::string_view ShownName(const CKTCOBOLRecordItem* item) {
     return item->m_sXMLName.empty() ? item->m_sDataName : item->m_sXMLName;
 }
 
@@ -41,11 +41,10 @@ std::string_view WhiteSpaceEffect(std::string_view value) {
 
 /// The value of this facet is looked up on the restriction, where a valid schema has none.
 void ReportWhiteSpace(const CKTCOBOLRecordItem* item, const CKTXMLElement* restriction) {
-    std::string value;
-    if (findAttrByName(restriction, "value", &value)) {
+    if (const std::string* value = AttributeValue(restriction, "value")) {
         WriteLine(std::cerr, {"Warning : Whitespace facet encountered Warning : Whitespace facet "
                               "encountered for element ",
-                              ShownName(item), " - ", WhiteSpaceEffect(value)});
+                              ShownName(item), " - ", WhiteSpaceEffect(*value)});
     }
 }
 
@@ -58,47 +57,80 @@ void ApplySize(CKTCOBOLRecordItem* holder, FacetKind kind, const std::string& va
     const bool enough = kind == FacetKind::MinLength && !holder->m_sPicLength.empty() &&
                         ReadInteger(holder->m_sPicLength) >= ReadInteger(value);
     if (!enough) {
-        holder->m_sPicLength = value;
+        holder->m_sPicLength.Share(value);
     }
 }
 
 }  // namespace
 
 /// Adds condition names to one item; knows the values that are there, and how many children the
-/// search for a value has passed.
+/// search for a value has passed. Values that are known to differ are not searched for.
 class CKTCOBOLGenerator::CKTConditionList {
 public:
-    CKTConditionList(CKTCOBOLGenerator& generator, Item* item, bool replaceInherited)
-        : m_Generator(generator), m_pItem(item) {
-        if (replaceInherited) {
+    CKTConditionList(CKTCOBOLGenerator& generator, Item* item, const CKTXMLElement* restriction)
+        : m_Generator(generator), m_pItem(item), m_pRestriction(restriction) {
+        if (getElementType(restriction) == GeneratorKind::Restriction) {
             std::erase_if(item->m_Children, [](const auto& child) { return child->IsCondition(); });
+            m_bMustSearch = !generator.m_DistinctEnumerations.contains(restriction);
+            return;
         }
+        m_bDistinct = false;
         for (std::size_t place = 0; place < item->m_Children.size(); ++place) {
             if (item->m_Children[place]->IsCondition()) {
                 m_Places.emplace(item->m_Children[place]->m_sValue, place);
             }
         }
     }
+    ~CKTConditionList() {
+        if (m_bMustSearch && m_bDistinct) {
+            m_Generator.m_DistinctEnumerations.insert(m_pRestriction);
+        }
+    }
+    CKTConditionList(const CKTConditionList&) = delete;
+    CKTConditionList& operator=(const CKTConditionList&) = delete;
 
     /// A value that is there already only moves the count on: it is not set back by a duplicate.
     void Add(const std::string& value) {
-        const auto [found, isNew] = m_Places.emplace(value, m_pItem->m_Children.size());
-        m_nPassed += found->second;
-        if (!isNew) {
-            return;
+        std::size_t place = m_pItem->m_Children.size();
+        if (m_bMustSearch) {
+            const auto [found, isNew] = m_Places.emplace(value, place);
+            if (!isNew) {
+                m_nPassed += found->second;
+                m_bDistinct = false;
+                return;
+            }
         }
         if (Item* condition = m_Generator.MakeConditionItem(m_pItem)) {
-            Item::setCOBOLDataName(condition->m_sDataName,
-                                   "enumerator-" + std::to_string(m_nPassed));
-            condition->m_sValue = value;
+            ShareName(condition->m_sDataName, m_nPassed + place);
+            condition->m_sValue.Share(value);
         }
         m_nPassed = 0;
     }
 
 private:
+    /// Most enumerations are short, so the first names are made once for all of them.
+    static void ShareName(CKTItemText& target, std::size_t number) {
+        static constexpr std::size_t kShared = 1000;
+        static const std::vector<std::string> names = [] {
+            std::vector<std::string> made;
+            for (std::size_t n = 0; n < kShared; ++n) {
+                made.push_back("enumerator-" + std::to_string(n));
+            }
+            return made;
+        }();
+        if (number < kShared) {
+            target.Share(names[number]);
+        } else {
+            target.Assign("enumerator-", std::to_string(number));
+        }
+    }
+
     CKTCOBOLGenerator& m_Generator;
     Item* m_pItem;
-    std::unordered_map<std::string, std::size_t> m_Places;
+    const CKTXMLElement* m_pRestriction;
+    bool m_bMustSearch = true;
+    bool m_bDistinct = true;
+    std::unordered_map<std::string_view, std::size_t> m_Places;
     std::size_t m_nPassed = 0;
 };
 
@@ -120,20 +152,19 @@ void CKTCOBOLGenerator::ApplyFacets(Item* item, const CKTXMLElement* restriction
     std::optional<CKTConditionList> conditions;
     for (const CKTXMLElement* facet = restriction->getFirstChildElem(); facet != nullptr;
          facet = facet->getNextSibling()) {
-        std::string value;
-        const bool hasValue = findAttrByName(facet, "value", value);
-        if (getFacetType(facet) != FacetKind::Enumeration) {
-            ApplyFacet(item, restriction, facet, hasValue ? &value : nullptr);
+        const FacetKind kind = getFacetType(facet);
+        const std::string* value = AttributeValue(facet, "value");
+        if (kind != FacetKind::Enumeration) {
+            ApplyFacet(item, restriction, facet, kind, value);
             continue;
         }
-        if (!withConditions || !hasValue) {
+        if (!withConditions || value == nullptr) {
             continue;
         }
         if (!conditions) {
-            conditions.emplace(*this, item,
-                               getElementType(restriction) == GeneratorKind::Restriction);
+            conditions.emplace(*this, item, restriction);
         }
-        conditions->Add(value);
+        conditions->Add(*value);
         if (facet->getNextSibling() == nullptr && item->HasValue()) {
             MoveValue(item, false);
         }
@@ -142,14 +173,15 @@ void CKTCOBOLGenerator::ApplyFacets(Item* item, const CKTXMLElement* restriction
 
 /// Applies one facet other than an enumeration; `value` is null when the facet has none.
 void CKTCOBOLGenerator::ApplyFacet(Item* item, const CKTXMLElement* restriction,
-                                   const CKTXMLElement* facet, const std::string* value) {
+                                   const CKTXMLElement* facet, FacetKind kind,
+                                   const std::string* value) {
     Item* holder = value == nullptr ? nullptr : ValueHolder(item);
-    switch (getFacetType(facet)) {
+    switch (kind) {
         case FacetKind::Length:
         case FacetKind::MinLength:
         case FacetKind::MaxLength:
             if (holder != nullptr) {
-                ApplySize(holder, getFacetType(facet), *value);
+                ApplySize(holder, kind, *value);
             }
             break;
         case FacetKind::TotalDigits:
@@ -160,7 +192,7 @@ void CKTCOBOLGenerator::ApplyFacet(Item* item, const CKTXMLElement* restriction,
             break;
         case FacetKind::FractionDigits:
             if (holder != nullptr) {
-                holder->m_sFractionDigits = *value;
+                holder->m_sFractionDigits.Share(*value);
             }
             break;
         case FacetKind::Pattern:

@@ -44,10 +44,11 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::MakeItem(Item* parent, std::string_view s
     return parent->AddChild(std::move(made));
 }
 
-CKTCOBOLRecordItem* CKTCOBOLGenerator::MakeGeneratedItem(Item* parent,
-                                                         const std::string& dataName) {
-    std::string cobolName;
-    Item::setCOBOLDataName(cobolName, dataName);
+CKTCOBOLRecordItem* CKTCOBOLGenerator::MakeGeneratedItem(Item* parent, std::string_view dataName,
+                                                         std::string_view ending) {
+    CKTItemText cobolName;
+    cobolName.Assign(dataName, ending);
+    cobolName.Replace('_', '-');
     Item* item = MakeItem(parent, cobolName, 1, 7);
     if (item != nullptr) {
         item->m_sDataName = std::move(cobolName);
@@ -81,7 +82,7 @@ void CKTCOBOLGenerator::RemoveItem(const Item* item) {
 /// yet. Where no level number is left for it, the value stays.
 void CKTCOBOLGenerator::MoveValue(Item* item, bool toFront) {
     if (item->m_pValueItem == nullptr) {
-        Item* made = MakeGeneratedItem(item, item->m_sDataName + "-value");
+        Item* made = MakeGeneratedItem(item, item->m_sDataName, "-value");
         if (made == nullptr) {
             return;
         }

@@ -133,9 +133,8 @@ bool CKTCOBOLGenerator::ConvertHead(CKTXMLElement* head, unsigned level, unsigne
                CKTCOBOLRecordItem::OutputCOBOLItem(m_pRecord.get(), m_sWriterText, m_bWriterFlag1,
                                                    m_bWriterFlag2);
     }
-    std::string name;
-    findAttrByName(head, "name", name);
-    WriteLine(std::cerr, {"Error : Record \"", name,
+    const std::string* name = AttributeValue(head, "name");
+    WriteLine(std::cerr, {"Error : Record \"", name == nullptr ? std::string_view() : *name,
                           m_Excess == Excess::TooManyItems
                               ? "\" exceeds 1000000 data items.  Record will not be converted."
                               : "\" is too complex to convert.  Record will not be converted."});
@@ -144,9 +143,8 @@ bool CKTCOBOLGenerator::ConvertHead(CKTXMLElement* head, unsigned level, unsigne
 }
 
 bool CKTCOBOLGenerator::ProcessSchemaElement(const CKTXMLElement* schema, bool& processChildren) {
-    std::string form;
-    findAttrByName(schema, "attributeFormDefault", form);
-    if (form == "true") {
+    const std::string* form = AttributeValue(schema, "attributeFormDefault");
+    if (form != nullptr && *form == "true") {
         WriteLine(std::cerr,
                   {"Error : COBOL XML does not support namespace qualifiers for attributes"
                    " in instance documents"});
@@ -165,19 +163,18 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessTypeDefinition(CKTXMLElement* e, u
     if (item->m_pSourceElement == nullptr) {
         item->m_pSourceElement = e;
     }
-    std::string name;
-    if (e->getFirstChildElem() == nullptr && e->isParent() &&
-        findAttrByName(e->getParent(), "name", name)) {
-        WriteLine(std::cerr, {"Warning : Cannot convert unconstrained type \"", name,
-                              "\" to a valid COBOL data item. An XML Schema element requires a "
-                              "type=\"...\" attribute for successful conversion."});
-        return nullptr;
+    if (e->getFirstChildElem() == nullptr && e->isParent()) {
+        if (const std::string* name = AttributeValue(e->getParent(), "name")) {
+            WriteLine(std::cerr, {"Warning : Cannot convert unconstrained type \"", *name,
+                                  "\" to a valid COBOL data item. An XML Schema element requires a "
+                                  "type=\"...\" attribute for successful conversion."});
+            return nullptr;
+        }
     }
-    std::string mixed;
-    findAttrByName(e, "mixed", mixed);
-    if (mixed == "true" && !item->m_bHasMixedValue) {
+    const std::string* mixed = AttributeValue(e, "mixed");
+    if (mixed != nullptr && *mixed == "true" && !item->m_bHasMixedValue) {
         item->m_bHasMixedValue = true;
-        if (Item* text = MakeGeneratedItem(item, item->m_sDataName + "-mixed-value")) {
+        if (Item* text = MakeGeneratedItem(item, item->m_sDataName, "-mixed-value")) {
             text->m_sPicType = "X";
             text->m_sPicLength = "80";
         }
@@ -186,10 +183,10 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessTypeDefinition(CKTXMLElement* e, u
     if (*current != item) {
         return *current;
     }
-    const bool hasDataItem = std::any_of(item->m_Children.begin(), item->m_Children.end(),
-                                         [](const auto& child) { return child->m_nLevel < 50; });
-    if (!item->m_bIsAttribute && hasDataItem && (mixed.empty() || mixed == "false") &&
-        item->HasValue()) {
+    const bool maySplit = !item->m_bIsAttribute && item->HasValue() &&
+                          (mixed == nullptr || mixed->empty() || *mixed == "false");
+    if (maySplit && std::any_of(item->m_Children.begin(), item->m_Children.end(),
+                                [](const auto& child) { return child->m_nLevel < 50; })) {
         MoveValue(item, true);
     }
     return item;

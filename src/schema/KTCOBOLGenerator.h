@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <memory_resource>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -14,6 +15,8 @@
 #include "schema/DeclarationIndex.h"
 #include "schema/KTXMLSchemaDoc.h"
 #include "schema/SchemaVocabulary.h"
+
+struct BuiltInForm;
 
 /// Turns a schema document into one COBOL record for each head element. The walk follows the schema
 /// from a head element and hands each construct to its handler; handlers fill the current record
@@ -52,7 +55,7 @@ public:
     /// Gives `item` the picture or usage of the built-in type `typeName`, which `context` names.
     /// False for a type that is not built in, and for the types that are not plain text or counts.
     bool convertXMLtoCOBOL(CKTCOBOLRecordItem* item, const CKTXMLElement* context,
-                           std::string typeName) const;
+                           const std::string& typeName) const;
 
     /// Says whether `typeName`, as written at `context`, is a built-in type with a COBOL form; if
     /// its namespace is that of XML Schema, `typeName` becomes the local part.
@@ -111,6 +114,7 @@ public:
 private:
     using Item = CKTCOBOLRecordItem;
     struct DeclarationTraits;
+    struct WrittenDeclaration;
     struct UnionMember;
     class CKTConditionList;
     class CKTNestingGuard;
@@ -130,6 +134,22 @@ private:
         const CKTXMLAttribute* attribute = nullptr;
     };
 
+    /// What the name means that an element of the schema has as its `type`, `base` or `ref`.
+    struct NameMeaning {
+        const BuiltInForm* builtIn = nullptr;  ///< the built-in type; null for any other
+        CKTXMLElement* declaration = nullptr;  ///< what was looked for; null when it was not found
+        CKTXMLElement* complexType = nullptr;  ///< for a `type`: the complex type of that name
+    };
+
+    /// A global element that heads a substitution group: its name and its namespace.
+    using SubstitutionHead = std::pair<std::string_view, std::string_view>;
+    struct SubstitutionHeadHash {
+        std::size_t operator()(const SubstitutionHead& head) const {
+            const std::hash<std::string_view> hash;
+            return hash(head.first) * 31 + hash(head.second);
+        }
+    };
+
     /// Why the walk of a record was given up.
     enum class Excess { None, TooManyItems, TooComplex };
 
@@ -143,7 +163,7 @@ private:
     void RemoveItem(const Item* item);
     bool CountItem();
     Item* MakeItem(Item* parent, std::string_view shownName, unsigned level, unsigned indent);
-    Item* MakeGeneratedItem(Item* parent, const std::string& dataName);
+    Item* MakeGeneratedItem(Item* parent, std::string_view dataName, std::string_view ending);
     Item* MakeConditionItem(Item* parent);
     void MoveValue(Item* item, bool toFront);
 
@@ -154,14 +174,25 @@ private:
 
     // Type resolution (TypeResolution.cpp)
     const CKTXMLAttribute* FindAttributeAbove(const CKTXMLElement* e, std::string_view name) const;
+    const std::string* FindNamespace(const CKTXMLElement* e, std::string_view attrName) const;
+    const std::string* FindTypeNamespace(const CKTXMLElement* context,
+                                         std::string_view qname) const;
+    const std::string& NamespaceOf(const CKTXMLElement* declaration);
+    const BuiltInForm* FindBuiltIn(const CKTXMLElement* context, std::string_view qname) const;
+    static void ApplyBuiltIn(Item* item, const BuiltInForm& form);
+    static void TakeBuiltIn(Item* item, const BuiltInForm& form);
+    template <typename LookUp>
+    const NameMeaning& Remember(const CKTXMLElement* e, LookUp lookUp);
+    const NameMeaning& MeaningOfType(const CKTXMLElement* context, const std::string& type);
+    const NameMeaning& MeaningOfBase(const CKTXMLElement* context, const std::string& base);
+    CKTXMLElement* FindReferenced(const CKTXMLElement* context, const std::string& ref,
+                                  DeclarationList list);
     static bool IsSchemaNamespace(std::string_view uri);
     bool IsOpenType(const CKTXMLElement* context, std::string_view qname, bool orListType) const;
     CKTXMLElement* FindType(const CKTXMLElement* context, std::string_view qname);
     CKTXMLElement* FindBase(const CKTXMLElement* context, std::string_view qname,
                             DeclarationList list);
     CKTXMLElement* FindBaseType(const CKTXMLElement* context, std::string_view qname);
-    bool ConvertBuiltIn(Item* item, const CKTXMLElement* context,
-                        const std::string& typeName) const;
 
     // Declarations (Declarations.cpp)
     Item* ProcessElementElement(CKTXMLElement* element, unsigned level, unsigned indent,
@@ -169,17 +200,20 @@ private:
     Item* ProcessAttributeElement(CKTXMLElement* element, unsigned level, unsigned indent,
                                   Item** current);
     Item* ProcessDeclaration(CKTXMLElement* element, const DeclarationTraits& traits,
-                             unsigned level, unsigned indent, Item** current);
-    void FillFromDeclaration(Item* item, const CKTXMLElement* element, bool reused) const;
-    bool FillContent(CKTXMLElement* element, const DeclarationTraits& traits, unsigned level,
-                     unsigned indent, Item** cursor);
+                             const WrittenDeclaration& written, unsigned level, unsigned indent,
+                             Item** current);
+    void FillFromDeclaration(Item* item, const CKTXMLElement* element,
+                             const WrittenDeclaration& written, bool reused);
+    bool FillContent(CKTXMLElement* element, const DeclarationTraits& traits,
+                     const WrittenDeclaration& written, unsigned level, unsigned indent,
+                     Item** cursor);
     bool FillFromReference(const CKTXMLElement* element, const std::string& ref,
                            const DeclarationTraits& traits, unsigned level, unsigned indent,
                            Item** cursor);
     bool FillFromType(const CKTXMLElement* element, const std::string& type,
                       const DeclarationTraits& traits, unsigned level, unsigned indent,
                       Item** cursor);
-    bool isRecursivePattern(const Item* item);
+    static bool isRecursivePattern(const Item* item, const CKTXMLElement* target);
     bool elementHasSubGroup(const Item* item);
 
     // Model groups (ModelGroups.cpp) and unions (Unions.cpp)
@@ -192,8 +226,8 @@ private:
     Item* ProcessElementUnion(const CKTXMLElement* unionElement, unsigned level, unsigned indent,
                               Item* current);
     bool FindUnionMember(const CKTXMLElement* unionElement, UnionMember& member);
-    Item* MakeUnionItem(const CKTXMLElement* unionElement, const UnionMember& member,
-                        std::size_t number, unsigned level, unsigned indent, Item* current);
+    Item* MakeUnionItem(const UnionMember& member, std::size_t number, unsigned level,
+                        unsigned indent, Item* current);
 
     // Derivations (Derivations.cpp)
     Item* ProcessElementRestriction(const CKTXMLElement* restriction, unsigned level,
@@ -212,7 +246,7 @@ private:
     // Facets (Facets.cpp)
     void ApplyFacets(Item* item, const CKTXMLElement* restriction, bool withConditions);
     static void ApplyFacet(Item* item, const CKTXMLElement* restriction, const CKTXMLElement* facet,
-                           const std::string* value);
+                           FacetKind kind, const std::string* value);
 
     static constexpr std::uint64_t kMaxElementsVisited = 20'000'000;
     static constexpr unsigned kMaxNesting = 10'000;
@@ -224,7 +258,13 @@ private:
 
     std::unique_ptr<CKTDeclarationIndex> m_pIndex;
     mutable std::unordered_map<std::string, FoundAbove> m_LastFound;
-    std::unordered_set<std::string> m_SubstitutionHeads;
+    // What was worked out once stays, because shared types are walked again and again.
+    // Its nodes lie together, apart from the items that are made meanwhile.
+    std::pmr::monotonic_buffer_resource m_MeaningMemory;
+    std::pmr::unordered_map<const CKTXMLElement*, NameMeaning> m_Meanings{&m_MeaningMemory};
+    std::unordered_map<const CKTXMLElement*, const std::string*> m_NamespacesBelow;
+    std::unordered_set<const CKTXMLElement*> m_DistinctEnumerations;
+    std::unordered_set<SubstitutionHead, SubstitutionHeadHash> m_SubstitutionHeads;
     bool m_bSubstitutionHeadsKnown = false;
     std::unordered_set<const CKTXMLElement*> m_ActiveGroups;
     std::unordered_set<ActiveType, ActiveTypeHash> m_ActiveTypes;

@@ -57,23 +57,21 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessModelGroup(CKTXMLElement* e, unsig
 
 CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessGroupMembers(const CKTXMLElement* e, unsigned level,
                                                            unsigned indent, Item** current) {
-    std::string maximum;
-    findAttrByName(e, "maxOccurs", maximum);
-    if (IsNever(e)) {
+    const std::string* maximum = AttributeValue(e, "maxOccurs");
+    if (IsNever(maximum)) {
         return *current;
     }
-    const bool grouped = IsNumberAboveOne(maximum);
+    const bool grouped = maximum != nullptr && IsNumberAboveOne(*maximum);
     Item* item = grouped ? MakeGroupItem(e, *current) : *current;
     if (item == nullptr) {
         return nullptr;
     }
     Item* own = item;
     Item** cursor = grouped ? &own : current;
-    std::string name;
-    std::string ref;
+    const std::string* ref = AttributeValue(e, "ref");
     bool converted = true;
-    if (!findAttrByName(e, "name", name) && findAttrByName(e, "ref", ref)) {
-        converted = WalkGroupReference(e, ref, level, indent, cursor);
+    if (ref != nullptr && AttributeValue(e, "name") == nullptr) {
+        converted = WalkGroupReference(e, *ref, level, indent, cursor);
     } else {
         WalkChildren(e, level, indent, cursor);
     }
@@ -87,14 +85,14 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessGroupMembers(const CKTXMLElement* 
 }
 
 CKTCOBOLRecordItem* CKTCOBOLGenerator::MakeGroupItem(const CKTXMLElement* e, Item* parent) {
-    Item* item = MakeGeneratedItem(parent, NextGroupName(e));
+    Item* item = MakeGeneratedItem(parent, NextGroupName(e), {});
     if (item != nullptr) {
         item->m_pSchemaElement = e;
         item->m_pSourceElement = e;
-        if (!findAttrByName(e, "minOccurs", item->m_sMinOccurs)) {
-            item->m_sMinOccurs = "1";
+        if (const std::string* minimum = AttributeValue(e, "minOccurs")) {
+            item->m_sMinOccurs.Share(*minimum);
         }
-        findAttrByName(e, "maxOccurs", item->m_sMaxOccurs);
+        item->m_sMaxOccurs.Share(*AttributeValue(e, "maxOccurs"));
     }
     return item;
 }
@@ -103,7 +101,7 @@ bool CKTCOBOLGenerator::WalkGroupReference(const CKTXMLElement* e, const std::st
                                            unsigned level, unsigned indent, Item** cursor) {
     const DeclarationList list =
         getElementType(e) == GeneratorKind::Group ? GROUPS : ATTRIBUTE_GROUPS;
-    CKTXMLElement* target = FindBase(e, ref, list);
+    CKTXMLElement* target = FindReferenced(e, ref, list);
     if (target == nullptr) {
         WriteLine(std::cerr, {"Error : Cannot find referenced element ", ref,
                               ".  Element will not be converted to COBOL record item."});

@@ -5,8 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "schema/SchemaVocabulary.h"
-
 /// Says whether `text` is a decimal number above 1, however large.
 inline bool IsNumberAboveOne(std::string_view text) {
     const bool digits = !text.empty() && std::all_of(text.begin(), text.end(),
@@ -15,11 +13,11 @@ inline bool IsNumberAboveOne(std::string_view text) {
     return digits && !text.empty() && text != "1";
 }
 
-/// Says whether the declaration or group may occur 0 times at most.
-inline bool IsNever(const CKTXMLElement* e) {
-    std::string maximum;
-    return findAttrByName(e, "maxOccurs", &maximum) && !maximum.empty() &&
-           maximum.find_first_not_of('0') == std::string::npos;
+/// Says whether `maximum`, the written `maxOccurs` or null, lets its declaration or group occur 0
+/// times at most.
+inline bool IsNever(const std::string* maximum) {
+    return maximum != nullptr && !maximum->empty() &&
+           maximum->find_first_not_of('0') == std::string::npos;
 }
 
 #endif

@@ -85,6 +85,11 @@ bool findAttrByName(const CKTXMLElement* e, std::string_view name, std::string* 
     return attribute != nullptr;
 }
 
+const std::string* AttributeValue(const CKTXMLElement* e, std::string_view name) {
+    const CKTXMLAttribute* attribute = e->getAttribute(name);
+    return attribute == nullptr ? nullptr : &attribute->getValue();
+}
+
 bool findAttrByValue(const CKTXMLElement* e, std::string_view value) {
     if (value.empty()) {
         return false;

@@ -6,27 +6,27 @@
 #include "schema/GeneratorState.h"
 #include "schema/KTCOBOLGenerator.h"
 
-namespace {
-
-constexpr std::string_view kXmlNamespace = "http://www.w3.org/XML/1998/namespace";
-constexpr std::string_view kSchemaHost = "http://www.w3.org";
-
+/// What becomes of a built-in type.
 struct BuiltInForm {
     std::string_view type;
-    const char* picture;  // null: the usage alone
-    const char* usage;    // null: none
+    std::string_view picture;  // empty: the usage alone
+    std::string_view usage;    // empty: none
     bool decimal;
     bool answer;
 };
 
+namespace {
+
+constexpr std::string_view kSchemaHost = "http://www.w3.org";
+
 constexpr BuiltInForm Text(std::string_view type) {
-    return {type, "X", nullptr, false, true};
+    return {type, "X", {}, false, true};
 }
 constexpr BuiltInForm Count(std::string_view type) {
-    return {type, "9", nullptr, false, true};
+    return {type, "9", {}, false, true};
 }
 constexpr BuiltInForm Number(std::string_view type) {
-    return {type, "S9", nullptr, false, false};
+    return {type, "S9", {}, false, false};
 }
 
 constexpr std::array kBuiltInForms = {Text("string"),
@@ -68,9 +68,9 @@ constexpr std::array kBuiltInForms = {Text("string"),
                                       Number("int"),
                                       Number("short"),
                                       Number("byte"),
-                                      BuiltInForm{"decimal", "S9", nullptr, true, false},
-                                      BuiltInForm{"float", nullptr, "COMP-1", false, false},
-                                      BuiltInForm{"double", nullptr, "COMP-2", false, false}};
+                                      BuiltInForm{"decimal", "S9", {}, true, false},
+                                      BuiltInForm{"float", {}, "COMP-1", false, false},
+                                      BuiltInForm{"double", {}, "COMP-2", false, false}};
 
 const BuiltInForm* FindBuiltInForm(std::string_view type) {
     static const auto index = [] {
@@ -108,31 +108,39 @@ GeneratorProcessState& GeneratorState() {
 
 bool CKTCOBOLGenerator::getNamespaceURI(const CKTXMLElement* e, std::string_view attrName,
                                         std::string& uri) const {
+    const std::string* found = FindNamespace(e, attrName);
+    if (found != nullptr) {
+        uri = *found;
+    }
+    return found != nullptr;
+}
+
+/// As getNamespaceURI, without a copy: null when nothing is bound.
+const std::string* CKTCOBOLGenerator::FindNamespace(const CKTXMLElement* e,
+                                                    std::string_view attrName) const {
+    static const std::string none;
+    static const std::string xmlNamespace = "http://www.w3.org/XML/1998/namespace";
     if (attrName.empty()) {
-        return false;
+        return nullptr;
     }
     if (e != nullptr) {
-        const CKTXMLAttribute* attribute = e->getAttribute(attrName);
-        if (attribute == nullptr) {
-            attribute = FindAttributeAbove(e->getParent(), attrName);
+        if (const std::string* value = AttributeValue(e, attrName)) {
+            return value;
         }
-        if (attribute != nullptr) {
-            uri = attribute->getValue();
-            return true;
+        if (const CKTXMLAttribute* above = FindAttributeAbove(e->getParent(), attrName)) {
+            return &above->getValue();
         }
     }
     if (attrName == "xmlns:xml") {
-        uri = kXmlNamespace;
-        return true;
+        return &xmlNamespace;
     }
     if (attrName != "xmlns" && attrName != "targetNamespace") {
-        return false;
+        return nullptr;
     }
-    uri.clear();
-    if (const CKTXMLElement* schema = GeneratorState().currentSchemaElement) {
-        findAttrByName(schema, "targetNamespace", uri);
-    }
-    return true;
+    const CKTXMLElement* schema = GeneratorState().currentSchemaElement;
+    const std::string* target =
+        schema == nullptr ? nullptr : AttributeValue(schema, "targetNamespace");
+    return target == nullptr ? &none : target;
 }
 
 /// Finds the attribute at or above `e`. The answer is remembered, because the declarations of one
@@ -152,11 +160,20 @@ const CKTXMLAttribute* CKTCOBOLGenerator::FindAttributeAbove(const CKTXMLElement
 
 bool CKTCOBOLGenerator::getTypeNamespace(const CKTXMLElement* context, std::string_view qname,
                                          std::string& uri) const {
+    const std::string* found = FindTypeNamespace(context, qname);
+    if (found != nullptr) {
+        uri = *found;
+    }
+    return found != nullptr;
+}
+
+const std::string* CKTCOBOLGenerator::FindTypeNamespace(const CKTXMLElement* context,
+                                                        std::string_view qname) const {
     if (context == nullptr || qname.empty()) {
-        return false;
+        return nullptr;
     }
     const std::string_view prefix = CKTXMLNode::getNameQualifier(qname);
-    return getNamespaceURI(context, prefix.empty() ? "xmlns" : "xmlns:" + std::string(prefix), uri);
+    return FindNamespace(context, prefix.empty() ? "xmlns" : "xmlns:" + std::string(prefix));
 }
 
 bool CKTCOBOLGenerator::getTypeNamespace(std::string_view qname, std::string& uri) const {
@@ -165,6 +182,18 @@ bool CKTCOBOLGenerator::getTypeNamespace(std::string_view qname, std::string& ur
 
 bool CKTCOBOLGenerator::getElementNamespace(const CKTXMLElement* e, std::string& uri) const {
     return getNamespaceURI(e, "targetNamespace", uri);
+}
+
+/// The namespace of a declaration, as getElementNamespace finds it.
+const std::string& CKTCOBOLGenerator::NamespaceOf(const CKTXMLElement* declaration) {
+    if (const std::string* own = AttributeValue(declaration, "targetNamespace")) {
+        return *own;
+    }
+    const std::string*& above = m_NamespacesBelow[declaration->getParent()];
+    if (above == nullptr) {
+        above = FindNamespace(declaration->getParent(), "targetNamespace");
+    }
+    return *above;
 }
 
 bool CKTCOBOLGenerator::IsSchemaNamespace(std::string_view uri) {
@@ -176,11 +205,19 @@ bool CKTCOBOLGenerator::IsSchemaNamespace(std::string_view uri) {
            uri.find("XMLSchema", host + kSchemaHost.size()) != std::string_view::npos;
 }
 
+/// The built-in type that `qname` means at `context`; null when it means none with a COBOL form.
+const BuiltInForm* CKTCOBOLGenerator::FindBuiltIn(const CKTXMLElement* context,
+                                                  std::string_view qname) const {
+    const std::string* uri = FindTypeNamespace(context, qname);
+    return uri != nullptr && IsSchemaNamespace(*uri)
+               ? FindBuiltInForm(CKTXMLNode::getNonQualifiedName(qname))
+               : nullptr;
+}
+
 bool CKTCOBOLGenerator::isSupportedDefaultSchemaType(const CKTXMLElement* context,
                                                      std::string& typeName) const {
-    std::string uri;
-    if (context == nullptr || typeName.empty() || !getTypeNamespace(context, typeName, uri) ||
-        !IsSchemaNamespace(uri)) {
+    const std::string* uri = FindTypeNamespace(context, typeName);
+    if (uri == nullptr || !IsSchemaNamespace(*uri)) {
         return false;
     }
     typeName = std::string(CKTXMLNode::getNonQualifiedName(typeName));
@@ -191,8 +228,8 @@ bool CKTCOBOLGenerator::isSupportedDefaultSchemaType(const CKTXMLElement* contex
 /// anySimpleType, or, when asked for, one of the list types.
 bool CKTCOBOLGenerator::IsOpenType(const CKTXMLElement* context, std::string_view qname,
                                    bool orListType) const {
-    std::string uri;
-    if (!getTypeNamespace(context, qname, uri) || !IsSchemaNamespace(uri)) {
+    const std::string* uri = FindTypeNamespace(context, qname);
+    if (uri == nullptr || !IsSchemaNamespace(*uri)) {
         return false;
     }
     const std::string_view name = CKTXMLNode::getNonQualifiedName(qname);
@@ -201,40 +238,87 @@ bool CKTCOBOLGenerator::IsOpenType(const CKTXMLElement* context, std::string_vie
 }
 
 bool CKTCOBOLGenerator::convertXMLtoCOBOL(CKTCOBOLRecordItem* item, const CKTXMLElement* context,
-                                          std::string typeName) const {
-    if (item == nullptr || !isSupportedDefaultSchemaType(context, typeName)) {
+                                          const std::string& typeName) const {
+    const BuiltInForm* form = item == nullptr ? nullptr : FindBuiltIn(context, typeName);
+    if (form == nullptr) {
         return false;
     }
-    const BuiltInForm* form = FindBuiltInForm(typeName);
-    if (form->picture != nullptr) {
-        item->m_sPicType = form->picture;
-    }
-    if (form->usage != nullptr) {
-        item->m_sUsage = form->usage;
-    }
-    item->m_bHasFraction = item->m_bHasFraction || form->decimal;
+    ApplyBuiltIn(item, *form);
     return form->answer;
 }
 
-/// Gives `item` a built-in type and, when it has no size yet, the type's default size. False, with
-/// the item unchanged, when `typeName` is no such type.
-bool CKTCOBOLGenerator::ConvertBuiltIn(Item* item, const CKTXMLElement* context,
-                                       const std::string& typeName) const {
-    std::string localName = typeName;
-    if (!isSupportedDefaultSchemaType(context, localName)) {
-        return false;
+void CKTCOBOLGenerator::ApplyBuiltIn(Item* item, const BuiltInForm& form) {
+    if (!form.picture.empty()) {
+        item->m_sPicType = form.picture;
     }
-    convertXMLtoCOBOL(item, context, typeName);
+    if (!form.usage.empty()) {
+        item->m_sUsage = form.usage;
+    }
+    item->m_bHasFraction = item->m_bHasFraction || form.decimal;
+}
+
+/// Gives `item` a built-in type and, when it has no size yet, the type's default size.
+void CKTCOBOLGenerator::TakeBuiltIn(Item* item, const BuiltInForm& form) {
+    ApplyBuiltIn(item, form);
     if (item->m_sPicLength.empty()) {
         item->m_sPicLength = item->m_sPicType == "X" ? "80" : item->m_bHasFraction ? "9" : "18";
     }
-    return true;
+}
+
+/// Answers what `lookUp` found for the one name that counts at `e` when it was first asked for.
+template <typename LookUp>
+const CKTCOBOLGenerator::NameMeaning& CKTCOBOLGenerator::Remember(const CKTXMLElement* e,
+                                                                  LookUp lookUp) {
+    const auto [found, isNew] = m_Meanings.try_emplace(e);
+    if (isNew) {
+        found->second = lookUp();
+    }
+    return found->second;
+}
+
+const CKTCOBOLGenerator::NameMeaning& CKTCOBOLGenerator::MeaningOfType(const CKTXMLElement* context,
+                                                                       const std::string& type) {
+    return Remember(context, [&] {
+        NameMeaning meaning;
+        meaning.builtIn = FindBuiltIn(context, type);
+        if (meaning.builtIn == nullptr) {
+            meaning.declaration = FindType(context, type);
+            meaning.complexType = findElementByName(context, type, COMPLEX_TYPES);
+        }
+        return meaning;
+    });
+}
+
+const CKTCOBOLGenerator::NameMeaning& CKTCOBOLGenerator::MeaningOfBase(const CKTXMLElement* context,
+                                                                       const std::string& base) {
+    return Remember(context, [&] {
+        NameMeaning meaning;
+        meaning.builtIn = FindBuiltIn(context, base);
+        if (meaning.builtIn == nullptr) {
+            meaning.declaration = FindBaseType(context, base);
+        }
+        return meaning;
+    });
+}
+
+/// What the `ref` of an element, attribute or group refers to in the chosen list.
+CKTXMLElement* CKTCOBOLGenerator::FindReferenced(const CKTXMLElement* context,
+                                                 const std::string& ref, DeclarationList list) {
+    return Remember(context,
+                    [&] {
+                        NameMeaning meaning;
+                        const bool declared = list == ELEMENTS || list == ATTRIBUTES;
+                        meaning.declaration = declared ? findElementByName(context, ref, list)
+                                                       : FindBase(context, ref, list);
+                        return meaning;
+                    })
+        .declaration;
 }
 
 CKTXMLElement* CKTCOBOLGenerator::findElementByName(const CKTXMLElement* context,
                                                     std::string_view qname, DeclarationList list) {
-    std::string uri;
-    if (m_pDocument == nullptr || !getTypeNamespace(context, qname, uri)) {
+    const std::string* uri = FindTypeNamespace(context, qname);
+    if (m_pDocument == nullptr || uri == nullptr) {
         return nullptr;
     }
     const std::string_view name = CKTXMLNode::getNonQualifiedName(qname);
@@ -244,14 +328,12 @@ CKTXMLElement* CKTCOBOLGenerator::findElementByName(const CKTXMLElement* context
             getElementNamespace(nullptr, defaultNamespace);
             m_pIndex = std::make_unique<CKTDeclarationIndex>(*m_pDocument, defaultNamespace);
         }
-        return m_pIndex->Find(uri, name, list);
+        return m_pIndex->Find(*uri, name, list);
     }
     for (const CKTXMLElement* up = context; up != nullptr; up = up->getParent()) {
         if (CKTXMLElement* replaced = m_pDocument->getReplaced(up)) {
-            std::string own;
-            getElementNamespace(up, own);
-            const bool same =
-                up->getAttribute("name")->getValue() == name && (uri.empty() || uri == own);
+            const bool same = up->getAttribute("name")->getValue() == name &&
+                              (uri->empty() || *uri == NamespaceOf(up));
             return same ? replaced : nullptr;
         }
     }
@@ -261,8 +343,8 @@ CKTXMLElement* CKTCOBOLGenerator::findElementByName(const CKTXMLElement* context
 CKTXMLElement* CKTCOBOLGenerator::findElementByName(const std::vector<CKTXMLElement*>& list,
                                                     std::string_view name) {
     for (CKTXMLElement* e : list) {
-        std::string own;
-        if (findAttrByName(e, "name", own) && own == CKTXMLNode::getNonQualifiedName(name)) {
+        const std::string* own = AttributeValue(e, "name");
+        if (own != nullptr && *own == CKTXMLNode::getNonQualifiedName(name)) {
             return e;
         }
     }

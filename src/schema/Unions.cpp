@@ -11,6 +11,7 @@
 struct CKTCOBOLGenerator::UnionMember {
     std::string name;
     CKTXMLElement* type = nullptr;
+    const BuiltInForm* builtIn = nullptr;
 };
 
 namespace {
@@ -33,12 +34,12 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementUnion(const CKTXMLElement* 
                                                            Item* current) {
     std::vector<UnionMember> members;
     for (std::string& name : MemberTypeNames(unionElement)) {
-        members.push_back({std::move(name), nullptr});
+        members.push_back({std::move(name), nullptr, nullptr});
     }
     for (CKTXMLElement* e = unionElement->getFirstChildElem(); e != nullptr;
          e = e->getNextSibling()) {
         if (getElementType(e) == GeneratorKind::SimpleType) {
-            members.push_back({{}, e});
+            members.push_back({{}, e, nullptr});
         }
     }
     std::vector<const Item*> made;
@@ -53,7 +54,7 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementUnion(const CKTXMLElement* 
             }
             return nullptr;
         }
-        Item* item = MakeUnionItem(unionElement, member, number, level, indent, current);
+        Item* item = MakeUnionItem(member, number, level, indent, current);
         if (item == nullptr) {
             continue;
         }
@@ -68,32 +69,30 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementUnion(const CKTXMLElement* 
 
 /// Says whether the type that `member` names exists, and finds it when it is not built in.
 bool CKTCOBOLGenerator::FindUnionMember(const CKTXMLElement* unionElement, UnionMember& member) {
-    std::string builtIn = member.name;
-    if (isSupportedDefaultSchemaType(unionElement, builtIn)) {
-        return true;
+    member.builtIn = FindBuiltIn(unionElement, member.name);
+    if (member.builtIn == nullptr) {
+        member.type = FindType(unionElement, member.name);
     }
-    member.type = FindType(unionElement, member.name);
-    return member.type != nullptr;
+    return member.builtIn != nullptr || member.type != nullptr;
 }
 
 /// Makes the item of one member with its value: in the item itself for the first member, in a
 /// further item below it for the others. Returns null when no value came of it.
-CKTCOBOLRecordItem* CKTCOBOLGenerator::MakeUnionItem(const CKTXMLElement* unionElement,
-                                                     const UnionMember& member, std::size_t number,
+CKTCOBOLRecordItem* CKTCOBOLGenerator::MakeUnionItem(const UnionMember& member, std::size_t number,
                                                      unsigned level, unsigned indent,
                                                      Item* current) {
     Item* item =
-        MakeGeneratedItem(current, current->m_sDataName + "-union-value-" + std::to_string(number));
+        MakeGeneratedItem(current, current->m_sDataName, "-union-value-" + std::to_string(number));
     if (item == nullptr) {
         return nullptr;
     }
-    Item* holder = number == 0 ? item : MakeGeneratedItem(item, item->m_sDataName + "-data");
+    Item* holder = number == 0 ? item : MakeGeneratedItem(item, item->m_sDataName, "-data");
     if (holder == nullptr) {
         RemoveItem(item);
         return nullptr;
     }
-    if (member.type == nullptr) {
-        ConvertBuiltIn(holder, unionElement, member.name);
+    if (member.builtIn != nullptr) {
+        TakeBuiltIn(holder, *member.builtIn);
         return item;
     }
     const CKTActiveGuard active(m_ActiveTypes, ActiveType(holder, member.type));

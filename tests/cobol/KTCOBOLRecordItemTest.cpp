@@ -162,7 +162,7 @@ TEST(RecordItem, LaterNamesakesAreNumbered) {
               "       03 P-a PIC X(1).\n");
     last->m_sDataName = "G";
     EXPECT_EQ(Written(last, "", true), "       03 G-1 PIC X(1).\n");
-    std::string name;
+    CKTItemText name;
     Item::setCOBOLDataName(name, "a_b__c-d");
     EXPECT_EQ(name, "a-b--c-d");
 }
@@ -185,7 +185,7 @@ void RenameByTheSearch(Item* top, Item* item) {
     if (!item->IsValidCOBOLItem()) {
         return;
     }
-    const std::string name = item->m_sDataName;
+    const std::string name(item->m_sDataName);
     for (int n = 1;; ++n) {
         bool reached = false;
         if (!Item::FindRecordItemByName(top, item, reached) || reached) {

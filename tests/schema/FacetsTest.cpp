@@ -38,8 +38,9 @@ void AddFacets(CKTXMLElement* restriction, const char* facets) {
     }
 }
 
+// The items share texts with the facets, which therefore stay.
 std::string Apply(Item* item, const char* facets, const Attributes& attributes = {}) {
-    CKTXMLElement root;
+    static CKTXMLElement root;
     CKTXMLElement* restriction = Add(&root, "xs:restriction", attributes);
     AddFacets(restriction, facets);
     const RedirectedStream errors(std::cerr);
@@ -48,14 +49,14 @@ std::string Apply(Item* item, const char* facets, const Attributes& attributes =
 }
 
 std::string Shown(const Item& item) {
-    std::string text = item.m_sPicType + "(" + item.m_sPicLength + ")" +
-                       std::to_string(item.m_nDigits) + "," + item.m_sFractionDigits;
+    std::ostringstream text;
+    text << item.m_sPicType << "(" << item.m_sPicLength << ")" << item.m_nDigits << ","
+         << item.m_sFractionDigits;
     for (const auto& child : item.m_Children) {
-        text += "; " + std::to_string(child->m_nLevel) + "/" + std::to_string(child->m_nDepth) +
-                " " + child->m_sDataName + " " +
-                (child->IsCondition() ? child->m_sValue : Shown(*child));
+        text << "; " << child->m_nLevel << "/" << child->m_nDepth << " " << child->m_sDataName
+             << " " << (child->IsCondition() ? std::string(child->m_sValue) : Shown(*child));
     }
-    return text;
+    return text.str();
 }
 
 TEST(Facets, LengthsAndDigitsActInDocumentOrder) {
