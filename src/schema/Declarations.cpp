@@ -126,13 +126,30 @@ void CKTCOBOLGenerator::FillFromDeclaration(Item* item, const CKTXMLElement* ele
     } else if (written.fixed != nullptr) {
         item->m_sValue.Share(*written.fixed);
     }
+    const DeclaredNames& names = NamesOf(element, written.name);
     if (written.name != nullptr) {
         item->m_sXMLName.Share(*written.name);
-        item->m_sDataName.Share(*written.name);
-        item->m_sDataName.Replace('_', '-');
-        item->m_sCountInName.Assign(item->m_sDataName, "-count");
+        item->m_sDataName.Share(names.dataName);
+        item->m_sCountInName.Share(names.countInName);
     }
-    item->m_sNamespace.Share(NamespaceOf(element));
+    item->m_sNamespace.Share(*names.uri);
+}
+
+/// The names that the items of `element` take from it; `name` is its `name`, null for a reference.
+const CKTCOBOLGenerator::DeclaredNames& CKTCOBOLGenerator::NamesOf(const CKTXMLElement* element,
+                                                                   const std::string* name) {
+    const auto [found, isNew] = m_DeclaredNames.try_emplace(element);
+    DeclaredNames& names = found->second;
+    if (isNew) {
+        names.uri = FindNamespace(element, "targetNamespace");
+        if (name != nullptr) {
+            CKTItemText dataName;
+            Item::setCOBOLDataName(dataName, *name);
+            names.dataName = dataName;
+            names.countInName = names.dataName + "-count";
+        }
+    }
+    return names;
 }
 
 bool CKTCOBOLGenerator::FillContent(CKTXMLElement* element, const DeclarationTraits& traits,

@@ -141,6 +141,13 @@ private:
         CKTXMLElement* complexType = nullptr;  ///< for a `type`: the complex type of that name
     };
 
+    /// The names that a declaration gives to its items.
+    struct DeclaredNames {
+        std::string dataName;
+        std::string countInName;
+        const std::string* uri = nullptr;  ///< the namespace
+    };
+
     /// A global element that heads a substitution group: its name and its namespace.
     using SubstitutionHead = std::pair<std::string_view, std::string_view>;
     struct SubstitutionHeadHash {
@@ -177,7 +184,6 @@ private:
     const std::string* FindNamespace(const CKTXMLElement* e, std::string_view attrName) const;
     const std::string* FindTypeNamespace(const CKTXMLElement* context,
                                          std::string_view qname) const;
-    const std::string& NamespaceOf(const CKTXMLElement* declaration);
     const BuiltInForm* FindBuiltIn(const CKTXMLElement* context, std::string_view qname) const;
     static void ApplyBuiltIn(Item* item, const BuiltInForm& form);
     static void TakeBuiltIn(Item* item, const BuiltInForm& form);
@@ -204,6 +210,7 @@ private:
                              Item** current);
     void FillFromDeclaration(Item* item, const CKTXMLElement* element,
                              const WrittenDeclaration& written, bool reused);
+    const DeclaredNames& NamesOf(const CKTXMLElement* element, const std::string* name);
     bool FillContent(CKTXMLElement* element, const DeclarationTraits& traits,
                      const WrittenDeclaration& written, unsigned level, unsigned indent,
                      Item** cursor);
@@ -258,11 +265,11 @@ private:
 
     std::unique_ptr<CKTDeclarationIndex> m_pIndex;
     mutable std::unordered_map<std::string, FoundAbove> m_LastFound;
-    // What was worked out once stays, because shared types are walked again and again.
-    // Its nodes lie together, apart from the items that are made meanwhile.
-    std::pmr::monotonic_buffer_resource m_MeaningMemory;
-    std::pmr::unordered_map<const CKTXMLElement*, NameMeaning> m_Meanings{&m_MeaningMemory};
-    std::unordered_map<const CKTXMLElement*, const std::string*> m_NamespacesBelow;
+    // What was worked out once stays, because shared types are walked again and again. It lies
+    // together, apart from the items that are made meanwhile.
+    std::pmr::monotonic_buffer_resource m_KnownMemory;
+    std::pmr::unordered_map<const CKTXMLElement*, NameMeaning> m_Meanings{&m_KnownMemory};
+    std::pmr::unordered_map<const CKTXMLElement*, DeclaredNames> m_DeclaredNames{&m_KnownMemory};
     std::unordered_set<const CKTXMLElement*> m_DistinctEnumerations;
     std::unordered_set<SubstitutionHead, SubstitutionHeadHash> m_SubstitutionHeads;
     bool m_bSubstitutionHeadsKnown = false;

@@ -1,7 +1,7 @@
 #include "schema/SchemaVocabulary.h"
 
 #include <array>
-#include <unordered_map>
+#include <cstdint>
 
 namespace {
 
@@ -26,33 +26,56 @@ constexpr std::array<std::string_view, 12> kFacetNames = {
     "enumeration",  "whiteSpace",   "maxInclusive", "maxExclusive",
     "minInclusive", "minExclusive", "totalDigits",  "fractionDigits"};
 
+constexpr std::size_t kSlots = 128;
+
+/// Where the search for a name begins. Chosen so that hardly two names of a table share a slot.
+constexpr std::size_t SlotOf(std::string_view name) {
+    const auto code = [](char c) -> std::size_t { return static_cast<unsigned char>(c); };
+    return name.empty() ? 0
+                        : (5 * name.size() + 3 * code(name.front()) + code(name.back())) % kSlots;
+}
+
+/// The places of the names in their table, each in the first free slot from its own on; free slots
+/// hold the place behind the last.
+template <std::size_t N>
+constexpr std::array<std::uint8_t, kSlots> PlaceAll(const std::array<std::string_view, N>& names) {
+    std::array<std::uint8_t, kSlots> places{};
+    places.fill(N);
+    for (std::size_t i = 0; i < N; ++i) {
+        std::size_t slot = SlotOf(names[i]);
+        while (places[slot] != N) {
+            slot = (slot + 1) % kSlots;
+        }
+        places[slot] = static_cast<std::uint8_t>(i);
+    }
+    return places;
+}
+
 /// Finds the place of a tag's local name in a table whose order is that of the enumeration `Kind`;
 /// a name that is not there has the place behind the last.
-template <typename Kind, std::size_t N>
-Kind KindOf(const std::array<std::string_view, N>& names, std::string_view tagName) {
-    static const auto index = [&names] {
-        std::unordered_map<std::string_view, Kind> places;
-        for (std::size_t i = 0; i < N; ++i) {
-            places.emplace(names[i], static_cast<Kind>(i));
-        }
-        return places;
-    }();
-    const auto found = index.find(CKTXMLNode::getNonQualifiedName(tagName));
-    return found == index.end() ? static_cast<Kind>(N) : found->second;
+template <typename Kind, const auto& kNames>
+Kind KindOf(std::string_view tagName) {
+    static constexpr auto places = PlaceAll(kNames);
+    const std::string_view name = CKTXMLNode::getNonQualifiedName(tagName);
+    std::size_t slot = SlotOf(name);
+    while (places[slot] != kNames.size() && kNames[places[slot]] != name) {
+        slot = (slot + 1) % kSlots;
+    }
+    return static_cast<Kind>(places[slot]);
 }
 
 }  // namespace
 
 SchemaKind SchemaKindOf(std::string_view tagName) {
-    return KindOf<SchemaKind>(kSchemaNames, tagName);
+    return KindOf<SchemaKind, kSchemaNames>(tagName);
 }
 
 GeneratorKind GeneratorKindOf(std::string_view tagName) {
-    return KindOf<GeneratorKind>(kGeneratorNames, tagName);
+    return KindOf<GeneratorKind, kGeneratorNames>(tagName);
 }
 
 FacetKind FacetKindOf(std::string_view tagName) {
-    return KindOf<FacetKind>(kFacetNames, tagName);
+    return KindOf<FacetKind, kFacetNames>(tagName);
 }
 
 CKTXMLElement* compareElemByName(CKTXMLElement* e, const std::string& name) {

@@ -184,18 +184,6 @@ bool CKTCOBOLGenerator::getElementNamespace(const CKTXMLElement* e, std::string&
     return getNamespaceURI(e, "targetNamespace", uri);
 }
 
-/// The namespace of a declaration, as getElementNamespace finds it.
-const std::string& CKTCOBOLGenerator::NamespaceOf(const CKTXMLElement* declaration) {
-    if (const std::string* own = AttributeValue(declaration, "targetNamespace")) {
-        return *own;
-    }
-    const std::string*& above = m_NamespacesBelow[declaration->getParent()];
-    if (above == nullptr) {
-        above = FindNamespace(declaration->getParent(), "targetNamespace");
-    }
-    return *above;
-}
-
 bool CKTCOBOLGenerator::IsSchemaNamespace(std::string_view uri) {
     if (uri == kSchemaNamespace) {
         return true;
@@ -333,7 +321,7 @@ CKTXMLElement* CKTCOBOLGenerator::findElementByName(const CKTXMLElement* context
     for (const CKTXMLElement* up = context; up != nullptr; up = up->getParent()) {
         if (CKTXMLElement* replaced = m_pDocument->getReplaced(up)) {
             const bool same = up->getAttribute("name")->getValue() == name &&
-                              (uri->empty() || *uri == NamespaceOf(up));
+                              (uri->empty() || *uri == *FindNamespace(up, "targetNamespace"));
             return same ? replaced : nullptr;
         }
     }
