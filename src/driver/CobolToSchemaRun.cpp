@@ -11,6 +11,7 @@
 #include "driver/Runs.h"
 #include "support/Console.h"
 #include "support/Files.h"
+#include "support/FilesUsed.h"
 #include "support/Text.h"
 #include "xml/KTDOMParser.h"
 #include "xmlgen/KTXMLGenerator.h"
@@ -102,6 +103,9 @@ bool Compile(const Settings& settings, const FileNames& names) {
         settings.directiveFile.empty()
             ? std::string()
             : "@" + ProcessSpaceyFilename(settings.directiveFile, nullptr);
+    // What the compiler reads is read for this run.
+    NoteFileRead(source);
+    NoteFileRead(settings.directiveFile);
     WriteLine(std::cout, {"Checking ", source, " for errors"});
     switch (RunCobolCompiler(directives, compileName)) {
         case CompilerResult::NotStarted:

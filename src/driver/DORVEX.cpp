@@ -5,6 +5,8 @@
 #include <string>
 
 #include "driver/CommandLine.h"
+#include "driver/DependencyFile.h"
+#include "driver/Environment.h"
 #include "driver/Runs.h"
 #include "support/Console.h"
 #include "support/Process.h"
@@ -58,6 +60,9 @@ int main(int argc, char** argv) {
     std::optional<int> status;
     try {
         status = Run(argc, argv);
+        if (!status) {
+            WriteDependencyFile(DependencyFileName());
+        }
     } catch (...) {
         status = StopWith(DescribeFault());
     }

@@ -2,6 +2,7 @@
 #include <memory>
 #include <string_view>
 
+#include "driver/Environment.h"
 #include "driver/Runs.h"
 #include "schema/KTCOBOLGenerator.h"
 #include "schema/KTXMLSchemaDoc.h"
@@ -35,6 +36,7 @@ void WriteCopybook(CKTDOMParser& parser, const Settings& settings, const std::st
     CKTSchemaSet set(files);
     CKTXMLSchemaDoc document(root.get(), nullptr, schemaPath, set);
     CKTCOBOLGenerator generator(&document);
+    generator.ChooseHeads(ChosenHeads());
     const bool prompt = settings.promptForOverwrite;
     if (FileExists(copybookName, prompt) && prompt) {
         return;

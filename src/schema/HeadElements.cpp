@@ -1,17 +1,23 @@
 // The choice of the head elements: global elements that nothing refers to.
 
 #include <iostream>
+#include <string_view>
+#include <unordered_map>
 
 #include "schema/KTCOBOLGenerator.h"
 #include "support/Console.h"
 
 namespace {
 
-bool IsCandidate(const CKTXMLElement* e) {
-    std::string abstract;
+bool IsConcreteElement(const CKTXMLElement* e) {
+    const CKTXMLAttribute* abstract = e->getAttribute("abstract");
     return GeneratorKindOf(e->getName()) == GeneratorKind::Element &&
-           e->getAttribute("name") != nullptr && e->getAttribute("substitutionGroup") == nullptr &&
-           (!findAttrByName(e, "abstract", &abstract) || abstract != "true");
+           e->getAttribute("name") != nullptr &&
+           (abstract == nullptr || abstract->getValue() != "true");
+}
+
+bool IsCandidate(const CKTXMLElement* e) {
+    return IsConcreteElement(e) && e->getAttribute("substitutionGroup") == nullptr;
 }
 
 void CollectCandidates(const CKTXMLSchemaDoc& doc, std::vector<CKTXMLElement*>& found) {
@@ -28,6 +34,11 @@ CKTXMLElement* CKTCOBOLGenerator::getSchemaHeadElement(std::vector<CKTXMLElement
     if (m_pDocument == nullptr || m_pDocument->getSchemaElement() == nullptr) {
         return nullptr;
     }
+    const std::size_t earlier = heads.size();
+    if (!m_ChosenHeads.empty()) {
+        AppendChosenHeads(heads);
+        return heads.size() - earlier == 1 ? heads.back() : nullptr;
+    }
     CKTXMLElement* schema = m_pDocument->getSchemaElement();
     std::vector<CKTXMLElement*> candidates;
     std::unordered_set<std::string_view> referenced;
@@ -40,7 +51,6 @@ CKTXMLElement* CKTCOBOLGenerator::getSchemaHeadElement(std::vector<CKTXMLElement
         }
         CollectReferencedNames(doc->getSchemaElement(), referenced);
     }
-    const std::size_t earlier = heads.size();
     for (CKTXMLElement* candidate : candidates) {
         if (!referenced.contains(candidate->getAttribute("name")->getValue())) {
             heads.push_back(candidate);
@@ -58,6 +68,28 @@ CKTXMLElement* CKTCOBOLGenerator::getSchemaHeadElement(std::vector<CKTXMLElement
                               "definition. Attempting to generate multiple file definitions"});
     }
     return nullptr;
+}
+
+void CKTCOBOLGenerator::AppendChosenHeads(std::vector<CKTXMLElement*>& heads) const {
+    std::unordered_map<std::string_view, CKTXMLElement*> elements;
+    std::vector<const CKTXMLSchemaDoc*> documents = ImportedDocuments();
+    documents.insert(documents.begin(), m_pDocument);
+    for (const CKTXMLSchemaDoc* doc : documents) {
+        for (CKTXMLElement* e : doc->OwnDeclarations()) {
+            if (IsConcreteElement(e)) {
+                elements.try_emplace(e->getAttribute("name")->getValue(), e);
+            }
+        }
+    }
+    for (const std::string& name : m_ChosenHeads) {
+        const auto found = elements.find(name);
+        if (found != elements.end()) {
+            heads.push_back(found->second);
+        } else {
+            WriteLine(std::cerr, {"Error : Head element \"", name,
+                                  "\" is not declared.  Element will not be converted."});
+        }
+    }
 }
 
 /// The imported documents in the order of the pairs, each once and none that is the main document.

@@ -31,6 +31,10 @@ public:
     CKTCOBOLGenerator(const CKTCOBOLGenerator&) = delete;
     CKTCOBOLGenerator& operator=(const CKTCOBOLGenerator&) = delete;
 
+    /// Has the global elements of these names converted, in this order, instead of those that
+    /// nothing refers to. No name leaves that choice as it is.
+    void ChooseHeads(std::vector<std::string> names) { m_ChosenHeads = std::move(names); }
+
     /// Converts every head element and writes the records to `outputName`, truncating it; to the
     /// console when the name is empty (after a notice) or the file cannot be opened. The other
     /// arguments go to the copybook writer: data-name prefix, count-in clauses, unique names.
@@ -48,8 +52,9 @@ public:
     /// Checks the `schema` element; false after an error line when it cannot be converted.
     static bool ProcessSchemaElement(const CKTXMLElement* schema, bool& processChildren);
 
-    /// Appends to `heads` the global elements that are referenced nowhere. Returns the head when
-    /// there is exactly one; otherwise null after a message.
+    /// Appends to `heads` the chosen elements or, without a choice, the global elements that are
+    /// referenced nowhere. Returns the head when there is exactly one; otherwise null, after a
+    /// message unless the heads are chosen. A chosen one that is not there is an error line.
     CKTXMLElement* getSchemaHeadElement(std::vector<CKTXMLElement*>& heads);
 
     /// Gives `item` the picture or usage of the built-in type `typeName`, which `context` names.
@@ -176,6 +181,7 @@ private:
 
     // Head elements (HeadElements.cpp)
     [[nodiscard]] std::vector<const CKTXMLSchemaDoc*> ImportedDocuments() const;
+    void AppendChosenHeads(std::vector<CKTXMLElement*>& heads) const;
     void CollectReferencedNames(CKTXMLElement* schema,
                                 std::unordered_set<std::string_view>& names) const;
 
@@ -263,6 +269,7 @@ private:
     bool m_bWriterFlag1 = false;
     bool m_bWriterFlag2 = false;
 
+    std::vector<std::string> m_ChosenHeads;
     std::unique_ptr<CKTDeclarationIndex> m_pIndex;
     mutable std::unordered_map<std::string, FoundAbove> m_LastFound;
     // What was worked out once stays, because shared types are walked again and again. It lies

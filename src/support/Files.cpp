@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "support/Console.h"
+#include "support/FilesUsed.h"
 #include "support/Limits.h"
 #include "support/Progress.h"
 
@@ -173,7 +174,7 @@ std::string ProcessSpaceyFilename(const std::string& name, std::FILE* trace) {
     return result;
 }
 
-CKTOutputFile::CKTOutputFile(const std::string& name) : m_Buffer(kOutputBufferSize) {
+CKTOutputFile::CKTOutputFile(const std::string& name) : m_Buffer(kOutputBufferSize), m_sName(name) {
     m_File.rdbuf()->pubsetbuf(m_Buffer.data(), static_cast<std::streamsize>(m_Buffer.size()));
     if (name.empty()) {
         return;
@@ -185,6 +186,8 @@ CKTOutputFile::CKTOutputFile(const std::string& name) : m_Buffer(kOutputBufferSi
         m_bRedirected = true;
         // Otherwise each message on standard error would flush the file.
         m_pSavedTie = std::cerr.tie(nullptr);
+    } else {
+        NoteOutput(name, false);
     }
 }
 
@@ -201,6 +204,7 @@ bool CKTOutputFile::Close() {
         m_bRedirected = false;
         m_File.close();
         written = written && !m_File.fail();
+        NoteOutput(m_sName, written);
     }
     return written;
 }

@@ -48,6 +48,7 @@ public:
 
 private:
     std::vector<char> m_Buffer;
+    std::string m_sName;
     std::ofstream m_File;
     bool m_bRedirected = false;
     std::streambuf* m_pSavedBuffer = nullptr;

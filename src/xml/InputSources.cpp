@@ -16,7 +16,7 @@
 #include <xercesc/util/BinFileInputStream.hpp>
 #include <xercesc/util/XMLURL.hpp>
 
-#include "support/FilesRead.h"
+#include "support/FilesUsed.h"
 #include "support/Progress.h"
 #include "xml/Paths.h"
 

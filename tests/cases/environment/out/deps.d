@@ -1,0 +1,4 @@
+one.cpy: \
+  main.xsd \
+  DIR/with\ space/o.xsd \
+  DIR/part.xsd
