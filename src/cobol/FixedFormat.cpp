@@ -1,9 +1,11 @@
 // The layout of one entry in fixed format: text in columns 8 to 72, a continued word or literal
-// marked by a hyphen in column 7.
+// marked by a hyphen in column 7. Words are wrapped at blanks; a literal is one word, blanks
+// included, and a reader of the lines finds it as it was.
 
 #include "cobol/FixedFormat.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -15,27 +17,45 @@ constexpr std::size_t kMaxBlanks = 254;
 constexpr std::string_view kCommentStart = "      *   ";
 constexpr std::string_view kContinuationStart = "      -   ";
 
-/// How many characters of `token` must be written for the literal that it begins with to be closed:
-/// 0 for a token that is no literal. A doubled quotation mark is one character of the literal.
-std::size_t LiteralEnd(std::string_view token) {
-    if (!token.starts_with('"')) {
-        return 0;
+/// Where a literal stands in a text: its opening mark, and the place behind its closing one.
+struct Literal {
+    std::size_t open = 0;
+    std::size_t end = 0;
+};
+
+bool IsMark(char c) {
+    return c == '"' || c == '\'';
+}
+
+bool IsLetter(char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+/// The literal that the word at `start` begins with, a letter before its mark as in X"00" included;
+/// none where nothing closes it. A doubled mark is one character of the literal.
+std::optional<Literal> FindLiteral(std::string_view text, std::size_t start) {
+    Literal literal = {start, 0};
+    if (start + 1 < text.size() && IsLetter(text[start]) && IsMark(text[start + 1])) {
+        ++literal.open;
     }
-    for (std::size_t i = 1; i < token.size(); ++i) {
-        if (token[i] != '"') {
-            continue;
-        }
-        if (i + 1 >= token.size() || token[i + 1] != '"') {
-            return i + 1;
-        }
-        ++i;
+    const char mark = text[literal.open];
+    if (!IsMark(mark)) {
+        return {};
     }
-    return token.size() + 1;
+    std::size_t at = text.find(mark, literal.open + 1);
+    while (at != std::string_view::npos && at + 1 < text.size() && text[at + 1] == mark) {
+        at = text.find(mark, at + 2);
+    }
+    if (at == std::string_view::npos) {
+        return {};
+    }
+    literal.end = at + 1;
+    return literal;
 }
 
 /// Starts the line on which a token that does not fit begins or, when `continued`, goes on; inside
-/// an open literal with a quotation mark. Returns its column.
-int StartLine(std::string& out, bool continued, bool inLiteral, int indent, bool comment) {
+/// a literal with its `mark` (else empty). Returns its column.
+int StartLine(std::string& out, bool continued, std::string_view mark, int indent, bool comment) {
     out += '\n';
     if (comment) {
         out += kCommentStart;
@@ -45,18 +65,40 @@ int StartLine(std::string& out, bool continued, bool inLiteral, int indent, bool
         out.append(kContinuation, ' ');
     }
     out.append(static_cast<std::size_t>(indent), ' ');
-    if (continued && inLiteral) {
-        out += '"';
-        return indent + kContinuation + 1;
+    if (continued) {
+        out += mark;
     }
-    return indent + kContinuation;
+    return indent + kContinuation + (continued ? static_cast<int>(mark.size()) : 0);
+}
+
+/// Appends a token that does not fit its line to a line of its own and to as many more as it needs;
+/// a literal's `mark` restarts it on each.
+void AppendLong(std::string_view token, std::string_view mark, int indent, int& column,
+                bool comment, std::string& out) {
+    std::size_t written = 0;
+    while (written < token.size() && token[written] != '\n' && token[written] != '\r') {
+        if (column >= kFreshEntry) {
+            column = indent - (comment ? 1 : 0) + kAreaA;
+            out.append(static_cast<std::size_t>(column), ' ');
+        } else {
+            column = StartLine(out, written > 0, mark, indent, comment);
+        }
+        const std::string_view piece =
+            token.substr(written, static_cast<std::size_t>(kLastColumn - column));
+        out += piece;
+        written += piece.size();
+        if (written == token.size()) {
+            column += static_cast<int>(piece.size());
+        }
+    }
 }
 
 /// The end of the word that begins at `start`, or of the blanks there, as far as they are one
 /// piece.
 std::size_t EndOfPiece(std::string_view text, std::size_t start) {
     if (text[start] != ' ') {
-        return std::min(text.find(' ', start), text.size());
+        const auto literal = FindLiteral(text, start);
+        return std::min(text.find(' ', literal ? literal->end : start), text.size());
     }
     std::size_t end = start;
     while (end < text.size() && end < start + kMaxBlanks && text[end] == ' ') {
@@ -110,23 +152,29 @@ void LayOutEntry(std::string_view line, std::string& out) {
 
 void LayOutToken(std::string_view token, int indent, int& column, bool comment, std::string& out) {
     indent = std::clamp(indent, 0, kMaxIndent);
-    const bool fits = static_cast<int>(token.size()) + column < kFreshEntry;
-    const std::size_t literalEnd = fits ? 0 : LiteralEnd(token);
-    std::size_t written = 0;
-    while (written < token.size() && token[written] != '\n' && token[written] != '\r') {
-        if (!fits && column >= kFreshEntry) {
-            column = indent - (comment ? 1 : 0) + kAreaA;
-            out.append(static_cast<std::size_t>(column), ' ');
-        } else if (!fits) {
-            column = StartLine(out, written > 0, written < literalEnd, indent, comment);
-        }
-        const auto room = static_cast<std::size_t>(kLastColumn - column);
-        const std::string_view rest = token.substr(written);
-        out += rest.substr(0, room);
-        if (rest.size() <= room) {
-            column += static_cast<int>(rest.size());
-            return;
-        }
-        written += room;
+    const auto fits = [&column](std::string_view text) {
+        return static_cast<int>(text.size()) + column < kFreshEntry;
+    };
+    const auto append = [&](std::string_view text) {
+        out += text;
+        column += static_cast<int>(text.size());
+    };
+    if (token.empty() || token.front() == '\n' || token.front() == '\r') {
+        return;
+    }
+    if (fits(token)) {
+        append(token);
+        return;
+    }
+    // What follows a closed literal is no part of it, so there it goes on like a new word.
+    const auto literal = FindLiteral(token, 0);
+    const std::size_t end = literal ? literal->end : token.size();
+    const std::string_view mark = literal ? token.substr(literal->open, 1) : std::string_view();
+    const std::string_view rest = token.substr(end);
+    AppendLong(token.substr(0, end), mark, indent, column, comment, out);
+    if (fits(rest)) {
+        append(rest);
+    } else {
+        AppendLong(rest, {}, indent, column, comment, out);
     }
 }

@@ -73,14 +73,18 @@ private:
         m_line.clear();
     }
 
-    // A literal runs to column 72 of its line and goes on behind the next line's first mark; a
-    // word goes on with the next line's first character.
+    // A literal runs to column 72 of its line and goes on behind the next line's first mark, which
+    // may be followed by the second half of a doubled mark that begins in column 72; a word goes on
+    // with the next line's first character.
     void Continue(std::string_view area) {
         if (m_line.empty()) {
             Fail(m_number, "a continuation of nothing");
         }
         area.remove_prefix(area.find_first_not_of(kBlanks));
-        if (const std::optional<char> quote = OpenQuote(m_line)) {
+        const bool halved = m_width == kTextEnd - kTextStart && IsQuote(m_line.back()) &&
+                            area.starts_with(std::string(2, m_line.back()));
+        const std::optional<char> quote = halved ? m_line.back() : OpenQuote(m_line);
+        if (quote) {
             m_line.append(kTextEnd - kTextStart - m_width, ' ');
             if (area.front() != *quote) {
                 Fail(m_number, "a continued literal without its quotation mark");

@@ -8,17 +8,22 @@ namespace casetest {
 namespace {
 
 TEST(CopybookCheck, JoinsContinuedLiteralsAndWords) {
-    const char* copybook =
+    const std::string copybook =
         "      * a comment. with periods.\n"
         "       01 REC identified by \"r\".\n"
         "          05 NAME pic x(3\n"
         "      -       0) value is \"ab\n"
         "      -   \"cd\"\n"
-        "      -   .\n";
+        "      -   .\n"
+        "          05 SAID pic x(9) value \"" +
+        std::string(37, 'a') +
+        "\"\n"
+        "      -   \"\"b\".\n";
     // The b stands in column 29, so 43 blanks belong to the literal.
     const std::vector<Entry> expected = {
         {"01", "REC", "identified", "by", "\"r\""},
-        {"05", "NAME", "pic", "x(30)", "value", "is", "\"ab" + std::string(43, ' ') + "cd\""}};
+        {"05", "NAME", "pic", "x(30)", "value", "is", "\"ab" + std::string(43, ' ') + "cd\""},
+        {"05", "SAID", "pic", "x(9)", "value", "\"" + std::string(37, 'a') + "\"\"b\""}};
     EXPECT_EQ(ReadEntries(copybook), expected);
 }
 
