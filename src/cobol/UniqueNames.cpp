@@ -1,14 +1,41 @@
+// Names are collected in the order in which the record is written; views into the items do for
+// them, because an item is renamed before its name is taken and never again.
+
 #include "cobol/UniqueNames.h"
 
+#include <algorithm>
 #include <string>
 
 #include "cobol/KTCOBOLRecordItem.h"
+
+namespace {
+
+char Folded(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+}  // namespace
+
+std::size_t CKTUniqueNames::NameHash::operator()(std::string_view name) const {
+    constexpr std::size_t kPrime = 1099511628211U;
+    std::size_t hash = 0;
+    for (const char c : name) {
+        hash = (hash ^ static_cast<unsigned char>(Folded(c))) * kPrime;
+    }
+    return hash;
+}
+
+bool CKTUniqueNames::SameName::operator()(std::string_view a, std::string_view b) const {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char x, char y) { return Folded(x) == Folded(y); });
+}
 
 CKTUniqueNames::CKTUniqueNames(const CKTCOBOLRecordItem& first) {
     const CKTCOBOLRecordItem* top = &first;
     while (top->m_pParent != nullptr) {
         top = top->m_pParent;
     }
+    m_Used.insert(top->m_sDataName);
     AddBefore(*top, first);
 }
 
@@ -35,9 +62,9 @@ void CKTUniqueNames::MakeUnique(CKTCOBOLRecordItem& item) {
         return;
     }
     if (const auto earlier = m_Used.find(item.m_sDataName); earlier != m_Used.end()) {
-        const std::string_view base = *earlier;
+        const std::string base(item.m_sDataName);
         // Used names stay used, so the numbers below the last one given are never free again.
-        int& number = m_NextNumber[base];
+        int& number = m_NextNumber[*earlier];
         do {
             ++number;
             item.m_sDataName.Assign(base, "-" + std::to_string(number));

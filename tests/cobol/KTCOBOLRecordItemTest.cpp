@@ -153,13 +153,13 @@ TEST(RecordItem, LaterNamesakesAreNumbered) {
     Item* last = AddTo(group, "a", "X");
     EXPECT_EQ(Written(top.get(), "P-", true),
               "       01 P-A.\n"
-              "       02 P-A PIC X(1) count in A-count.\n"
               "       02 P-A-1 PIC X(1) count in A-1-count.\n"
+              "       02 P-A-2 PIC X(1) count in A-2-count.\n"
               "       02 P-A-1-1 PIC X(1).\n"
               "       02 P-G PIC X(1).\n"
               "       02 P-B-1.\n"
-              "       03 P-A-2 PIC X(1).\n"
-              "       03 P-a PIC X(1).\n");
+              "       03 P-A-3 PIC X(1).\n"
+              "       03 P-a-4 PIC X(1).\n");
     last->m_sDataName = "G";
     EXPECT_EQ(Written(last, "", true), "       03 G-1 PIC X(1).\n");
     CKTItemText name;
@@ -188,7 +188,8 @@ void RenameByTheSearch(Item* top, Item* item) {
     const std::string name(item->m_sDataName);
     for (int n = 1;; ++n) {
         bool reached = false;
-        if (!Item::FindRecordItemByName(top, item, reached) || reached) {
+        const bool namesake = Item::FindRecordItemByName(top, item, reached) && !reached;
+        if (item == top || (!namesake && !(item->m_sDataName == top->m_sDataName))) {
             break;
         }
         item->m_sDataName = name + "-" + std::to_string(n);
