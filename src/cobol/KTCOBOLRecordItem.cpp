@@ -127,9 +127,10 @@ void CKTCOBOLRecordItem::AppendPictureClause(std::string& line) const {
         line += m_sPicType;
         line += '(';
         if (m_nDigits == -1) {
-            line += m_sPicLength;
+            const std::string_view size = PlainNumber(m_sPicLength);
+            line += size == "0" ? "1" : size;
         } else {
-            line += std::to_string(m_nDigits - fraction);
+            line += std::to_string(std::max(m_nDigits - fraction, 1LL));
         }
         line += ')';
     } else if (m_sPicType.View().starts_with('S')) {

@@ -13,6 +13,7 @@
 #include "cobol/UniqueNames.h"
 #include "support/Console.h"
 #include "support/Progress.h"
+#include "support/Text.h"
 
 namespace {
 
@@ -87,7 +88,7 @@ void CKTRecordWriter::BuildLine(const CKTCOBOLRecordItem& item) {
         m_sLine += " USAGE ";
         m_sLine += item.m_sUsage;
     }
-    const std::string_view maximum = item.m_sMaxOccurs;
+    const std::string_view maximum = PlainNumber(item.m_sMaxOccurs);
     if (!maximum.empty() && maximum != "1" && maximum != "unbounded") {
         m_sLine += " occurs ";
         m_sLine += maximum;

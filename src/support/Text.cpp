@@ -152,3 +152,16 @@ long long ReadInteger(std::string_view text) {
     }
     return negative ? -value : value;
 }
+
+std::string_view PlainNumber(std::string_view text) {
+    std::string_view digits = text;
+    const bool negative = digits.starts_with('-');
+    if (negative || digits.starts_with('+')) {
+        digits.remove_prefix(1);
+    }
+    if (digits.empty() || digits.find_first_not_of("0123456789") != std::string_view::npos) {
+        return text;
+    }
+    digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size() - 1));
+    return negative && digits != "0" ? text : digits;
+}

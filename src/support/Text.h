@@ -38,4 +38,8 @@ std::u16string WidenText(std::string_view text);
 /// text without digits reads as 0. Values beyond the range of the result saturate.
 long long ReadInteger(std::string_view text);
 
+/// The digits of a decimal number of 0 or above without sign and leading zeros, as a part of
+/// `text`; a `text` that is anything else is answered as it is.
+std::string_view PlainNumber(std::string_view text);
+
 #endif

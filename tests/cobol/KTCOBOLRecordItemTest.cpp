@@ -90,6 +90,8 @@ TEST(RecordItem, PicturesShareTheDigitsBetweenBothSidesOfThePoint) {
         {"S9", "9", 7, "2", true, " PIC S9(5)V9(2)"},  {"9", "9", 3, "2", true, " PIC 9(1)V9(2)"},
         {"9", "9", 2, "2", true, " PIC V9(2)"},        {"S9", "9", 2, "2", true, " PIC SV9(2)"},
         {"S9", "9", 2, "3", true, " PIC SV9(3)"},      {"", "9", 2, "2", true, ""},
+        {"X", "00", -1, "", false, " PIC X(1)"},       {"9", "18", 0, "", false, " PIC 9(1)"},
+        {"9", "18", 2, "+02", false, " PIC 9(1)"},     {"X", "+010", -1, "", false, " PIC X(10)"},
     };
     for (const auto& row : rows) {
         const auto item = MakeItem(1, "A", row.type);
