@@ -64,9 +64,13 @@ bool CKTCOBOLRecordItem::CanBeWritten() const {
 void CKTCOBOLRecordItem::ReportEmptyStructure() {
     if (!m_bReported) {
         m_bReported = true;
-        WriteLine(std::cerr, {"Warning : Unable to convert schema element \"", m_sDataName,
-                              "\" to COBOL (empty structure)"});
+        ReportEmptyStructure(m_sDataName);
     }
+}
+
+void CKTCOBOLRecordItem::ReportEmptyStructure(std::string_view dataName) {
+    WriteLine(std::cerr, {"Warning : Unable to convert schema element \"", dataName,
+                          "\" to COBOL (empty structure)"});
 }
 
 bool CKTCOBOLRecordItem::FindRecordItemByName(CKTCOBOLRecordItem* searchIn,

@@ -49,6 +49,8 @@ public:
 
     /// Writes the warning that the item has no content, unless it was written before.
     void ReportEmptyStructure();
+    /// The same for something named `dataName` that never became an item.
+    static void ReportEmptyStructure(std::string_view dataName);
 
     /// Searches `searchIn` in pre-order for a valid item below it with the data name of `item`, and
     /// stops at `item` itself. True with `reached` still false: an earlier namesake exists; true
@@ -97,6 +99,7 @@ public:
     bool m_bIsAttribute = false;    ///< the item comes from an XML attribute
     bool m_bIsReference = false;    ///< the item waits for the declaration that it refers to
     bool m_bHasMixedValue = false;  ///< an item for mixed content was made below it
+    bool m_bIsList = false;         ///< the value is of a list type, which has no COBOL form
     CKTItemText m_sFractionDigits;  ///< digits after the decimal point
     CKTItemText m_sDataName;        ///< set through setCOBOLDataName
     CKTItemText m_sPicType;         ///< picture symbol: "X", "9", "S9"

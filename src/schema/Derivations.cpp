@@ -9,11 +9,14 @@
 
 namespace {
 
+/// What a derivation stands in; Other for one that stands in nothing.
+GeneratorKind KindAbove(const CKTXMLElement* derivation) {
+    return derivation->isParent() ? GeneratorKindOf(derivation->getParent()->getName())
+                                  : GeneratorKind::Other;
+}
+
 void SetContentKind(CKTCOBOLRecordItem* item, const CKTXMLElement* derivation) {
-    if (!derivation->isParent()) {
-        return;
-    }
-    const GeneratorKind parent = GeneratorKindOf(derivation->getParent()->getName());
+    const GeneratorKind parent = KindAbove(derivation);
     if (parent == GeneratorKind::SimpleContent) {
         item->m_nContentKind = CKTCOBOLRecordItem::SIMPLE_CONTENT;
     } else if (parent == GeneratorKind::ComplexContent) {
@@ -51,11 +54,30 @@ void ReportMissingBase(const std::string& base) {
 
 }  // namespace
 
+/// While it lives, a derivation that is simple content is the innermost one.
+class CKTCOBOLGenerator::CKTSimpleContent {
+public:
+    CKTSimpleContent(CKTCOBOLGenerator& generator, const CKTXMLElement* derivation)
+        : m_Generator(generator), m_pOuterBase(generator.m_pSimpleBase) {
+        if (KindAbove(derivation) == GeneratorKind::SimpleContent) {
+            generator.m_pSimpleBase = AttributeValue(derivation, "base");
+        }
+    }
+    ~CKTSimpleContent() { m_Generator.m_pSimpleBase = m_pOuterBase; }
+    CKTSimpleContent(const CKTSimpleContent&) = delete;
+    CKTSimpleContent& operator=(const CKTSimpleContent&) = delete;
+
+private:
+    CKTCOBOLGenerator& m_Generator;
+    const std::string* m_pOuterBase;
+};
+
 CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementRestriction(const CKTXMLElement* restriction,
                                                                  unsigned level, unsigned indent,
                                                                  Item** current) {
     Item* item = *current;
     SetContentKind(item, restriction);
+    const CKTSimpleContent simpleContent(*this, restriction);
     const std::string* base = AttributeValue(restriction, "base");
     if (base == nullptr) {
         RestrictOwnContent(restriction, level, indent, current);
@@ -65,7 +87,10 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementRestriction(const CKTXMLEle
     if (meaning.builtIn != nullptr) {
         TakeBuiltIn(item, *meaning.builtIn);
         ProcessElementFacets(item, restriction);
-    } else if (IsOpenType(restriction, *base, true)) {
+    } else if (IsListType(restriction, *base)) {
+        NoteList(item, m_pSimpleBase);
+        WalkChildren(restriction, level, indent, current);
+    } else if (IsOpenType(restriction, *base)) {
         WalkChildren(restriction, level, indent, current);
     } else if (meaning.declaration != nullptr) {
         RestrictNamedType(restriction, meaning.declaration, *base, level, indent, current);
@@ -123,6 +148,7 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementExtension(const CKTXMLEleme
                                                                Item** current) {
     Item* item = *current;
     SetContentKind(item, extension);
+    const CKTSimpleContent simpleContent(*this, extension);
     const std::string* base = AttributeValue(extension, "base");
     if (base == nullptr) {
         return item;
@@ -130,7 +156,9 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementExtension(const CKTXMLEleme
     const NameMeaning& meaning = MeaningOfBase(extension, *base);
     if (meaning.builtIn != nullptr) {
         TakeBuiltIn(item, *meaning.builtIn);
-    } else if (!IsOpenType(extension, *base, false)) {
+    } else if (IsListType(extension, *base)) {
+        NoteList(item, m_pSimpleBase);
+    } else if (!IsOpenType(extension, *base)) {
         if (meaning.declaration == nullptr) {
             ReportMissingBase(*base);
             return nullptr;
@@ -155,13 +183,17 @@ void CKTCOBOLGenerator::WalkBaseType(CKTXMLElement* type, const std::string& nam
 }
 
 /// Gives `item` the built-in type at the end of the base chain of `type` and the facets on the way,
-/// without the attributes and condition names of the base.
+/// without the attributes and condition names of the base. A list at its end is noted.
 void CKTCOBOLGenerator::TakeBaseValue(Item* item, CKTXMLElement* type) {
     std::vector<const CKTXMLElement*> steps;
+    const std::string* simpleBase = m_pSimpleBase;
     bool converted = false;
     while (type != nullptr && !converted) {
         const CKTXMLElement* step = FindValueDerivation(type);
         if (step == nullptr) {
+            if (FindChild(type, GeneratorKind::List) != nullptr) {
+                NoteList(item, simpleBase);
+            }
             return;
         }
         if (m_nNesting + steps.size() >= kMaxNesting ||
@@ -170,18 +202,24 @@ void CKTCOBOLGenerator::TakeBaseValue(Item* item, CKTXMLElement* type) {
             return;
         }
         steps.push_back(step);
+        const std::string* base = AttributeValue(step, "base");
+        if (KindAbove(step) == GeneratorKind::SimpleContent) {
+            simpleBase = base;
+        }
         type = getElementType(step) == GeneratorKind::Restriction
                    ? FindChild(step, GeneratorKind::SimpleType)
                    : nullptr;
-        const std::string* base = type == nullptr ? AttributeValue(step, "base") : nullptr;
-        if (base != nullptr) {
-            const NameMeaning& meaning = MeaningOfBase(step, *base);
-            converted = meaning.builtIn != nullptr;
-            if (converted) {
-                TakeBuiltIn(item, *meaning.builtIn);
-            }
-            type = meaning.declaration;
+        if (type != nullptr || base == nullptr) {
+            continue;
         }
+        const NameMeaning& meaning = MeaningOfBase(step, *base);
+        converted = meaning.builtIn != nullptr;
+        if (converted) {
+            TakeBuiltIn(item, *meaning.builtIn);
+        } else if (IsListType(step, *base)) {
+            NoteList(item, simpleBase);
+        }
+        type = meaning.declaration;
     }
     for (auto step = steps.rbegin(); converted && step != steps.rend(); ++step) {
         if (getElementType(*step) == GeneratorKind::Restriction) {

@@ -100,3 +100,21 @@ void CKTCOBOLGenerator::MoveValue(Item* item, bool toFront) {
     value->m_bHasFraction = std::exchange(item->m_bHasFraction, false);
     value->m_sUsage = std::exchange(item->m_sUsage, {});
 }
+
+/// Remembers that the value of `item` is of a list type, and `base`, which names it to the user.
+void CKTCOBOLGenerator::NoteList(Item* item, const std::string* base) {
+    if (!item->m_bIsList) {
+        item->m_bIsList = true;
+        m_ListBases[item] = base;
+    }
+}
+
+/// Reports that the list which is the value of `item` has no place beside its attributes.
+void CKTCOBOLGenerator::LeaveListOut(Item* item) {
+    item->m_bIsList = false;
+    const std::string* base = m_ListBases[item];
+    WriteLine(std::cerr,
+              {"Warning : This version of DORVEX does not support list types.  The value "
+               "of \"",
+               base == nullptr ? std::string_view() : *base, "\" is left out."});
+}

@@ -124,17 +124,26 @@ bool CKTCOBOLGenerator::ConvertHead(CKTXMLElement* head, unsigned level, unsigne
     m_Excess = Excess::None;
     m_nItemsMade = 0;
     m_nElementsVisited = 0;
+    m_ListBases.clear();
+    const int saidBefore = m_nErrorCount + m_nWarningCount;
     Item* current = nullptr;
     const unsigned outerNesting = std::exchange(m_nNesting, 0);
     const Item* record = getCOBOLFromSchema(head, level, indent, &current);
     m_nNesting = outerNesting;
-    if (m_Excess == Excess::None) {
-        return record != nullptr &&
-               CKTCOBOLRecordItem::OutputCOBOLItem(m_pRecord.get(), m_sWriterText, m_bWriterFlag1,
-                                                   m_bWriterFlag2);
-    }
     const std::string* name = AttributeValue(head, "name");
-    WriteLine(std::cerr, {"Error : Record \"", name == nullptr ? std::string_view() : *name,
+    const std::string_view shownName = name == nullptr ? std::string_view() : *name;
+    if (m_Excess == Excess::None) {
+        const bool written =
+            record != nullptr &&
+            Item::OutputCOBOLItem(m_pRecord.get(), m_sWriterText, m_bWriterFlag1, m_bWriterFlag2);
+        if (!written && m_nErrorCount + m_nWarningCount == saidBefore) {
+            CKTItemText dataName;
+            Item::setCOBOLDataName(dataName, shownName);
+            Item::ReportEmptyStructure(dataName);
+        }
+        return written;
+    }
+    WriteLine(std::cerr, {"Error : Record \"", shownName,
                           m_Excess == Excess::TooManyItems
                               ? "\" exceeds 1000000 data items.  Record will not be converted."
                               : "\" is too complex to convert.  Record will not be converted."});
@@ -183,11 +192,15 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessTypeDefinition(CKTXMLElement* e, u
     if (*current != item) {
         return *current;
     }
-    const bool maySplit = !item->m_bIsAttribute && item->HasValue() &&
+    const bool maySplit = !item->m_bIsAttribute && (item->HasValue() || item->m_bIsList) &&
                           (mixed == nullptr || mixed->empty() || *mixed == "false");
     if (maySplit && std::any_of(item->m_Children.begin(), item->m_Children.end(),
                                 [](const auto& child) { return child->m_nLevel < 50; })) {
-        MoveValue(item, true);
+        if (item->m_bIsList) {
+            LeaveListOut(item);
+        } else {
+            MoveValue(item, true);
+        }
     }
     return item;
 }

@@ -123,6 +123,7 @@ private:
     struct UnionMember;
     class CKTConditionList;
     class CKTNestingGuard;
+    class CKTSimpleContent;
 
     /// A type definition together with the item that it is walked into.
     using ActiveType = std::pair<const CKTCOBOLRecordItem*, const CKTXMLElement*>;
@@ -178,6 +179,8 @@ private:
     Item* MakeGeneratedItem(Item* parent, std::string_view dataName, std::string_view ending);
     Item* MakeConditionItem(Item* parent);
     void MoveValue(Item* item, bool toFront);
+    void NoteList(Item* item, const std::string* base);
+    void LeaveListOut(Item* item);
 
     // Head elements (HeadElements.cpp)
     [[nodiscard]] std::vector<const CKTXMLSchemaDoc*> ImportedDocuments() const;
@@ -200,7 +203,8 @@ private:
     CKTXMLElement* FindReferenced(const CKTXMLElement* context, const std::string& ref,
                                   DeclarationList list);
     static bool IsSchemaNamespace(std::string_view uri);
-    bool IsOpenType(const CKTXMLElement* context, std::string_view qname, bool orListType) const;
+    bool IsOpenType(const CKTXMLElement* context, std::string_view qname) const;
+    bool IsListType(const CKTXMLElement* context, std::string_view qname) const;
     CKTXMLElement* FindType(const CKTXMLElement* context, std::string_view qname);
     CKTXMLElement* FindBase(const CKTXMLElement* context, std::string_view qname,
                             DeclarationList list);
@@ -280,6 +284,8 @@ private:
     std::unordered_set<const CKTXMLElement*> m_DistinctEnumerations;
     std::unordered_set<SubstitutionHead, SubstitutionHeadHash> m_SubstitutionHeads;
     bool m_bSubstitutionHeadsKnown = false;
+    const std::string* m_pSimpleBase = nullptr;  // written by the innermost simple content walked
+    std::unordered_map<const Item*, const std::string*> m_ListBases;
     std::unordered_set<const CKTXMLElement*> m_ActiveGroups;
     std::unordered_set<ActiveType, ActiveTypeHash> m_ActiveTypes;
     std::unique_ptr<Item> m_pRecord;

@@ -43,6 +43,7 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessModelGroup(CKTXMLElement* e, unsig
         case GeneratorKind::Union:
             return ProcessElementUnion(e, level, indent, *current);
         case GeneratorKind::List:
+            NoteList(*current, m_pSimpleBase);
             return *current;
         case GeneratorKind::Any:
         case GeneratorKind::AnyAttribute:

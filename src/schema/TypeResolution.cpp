@@ -212,17 +212,20 @@ bool CKTCOBOLGenerator::isSupportedDefaultSchemaType(const CKTXMLElement* contex
     return FindBuiltInForm(typeName) != nullptr;
 }
 
-/// Says whether `qname` means a type of XML Schema that leaves its content open: anyType or
-/// anySimpleType, or, when asked for, one of the list types.
-bool CKTCOBOLGenerator::IsOpenType(const CKTXMLElement* context, std::string_view qname,
-                                   bool orListType) const {
+/// Says whether `qname` means a type of XML Schema that leaves its content open.
+bool CKTCOBOLGenerator::IsOpenType(const CKTXMLElement* context, std::string_view qname) const {
     const std::string* uri = FindTypeNamespace(context, qname);
-    if (uri == nullptr || !IsSchemaNamespace(*uri)) {
-        return false;
-    }
     const std::string_view name = CKTXMLNode::getNonQualifiedName(qname);
-    return name == "anyType" || name == "anySimpleType" ||
-           (orListType && (name == "NMTOKENS" || name == "IDREFS" || name == "ENTITIES"));
+    return uri != nullptr && IsSchemaNamespace(*uri) &&
+           (name == "anyType" || name == "anySimpleType");
+}
+
+/// Says whether `qname` means one of the list types of XML Schema.
+bool CKTCOBOLGenerator::IsListType(const CKTXMLElement* context, std::string_view qname) const {
+    const std::string* uri = FindTypeNamespace(context, qname);
+    const std::string_view name = CKTXMLNode::getNonQualifiedName(qname);
+    return uri != nullptr && IsSchemaNamespace(*uri) &&
+           (name == "NMTOKENS" || name == "IDREFS" || name == "ENTITIES");
 }
 
 bool CKTCOBOLGenerator::convertXMLtoCOBOL(CKTCOBOLRecordItem* item, const CKTXMLElement* context,

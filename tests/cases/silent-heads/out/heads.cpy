@@ -1,0 +1,2 @@
+       01 good PIC S9(18) identified by "good".
+
