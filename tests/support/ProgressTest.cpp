@@ -1,6 +1,5 @@
 #include "support/Progress.h"
 
-#include <fcntl.h>
 #include <pty.h>
 #include <termios.h>
 #include <unistd.h>
@@ -34,7 +33,6 @@ public:
         size.ws_col = columns;
         std::array<char, 64> name{};
         if (::openpty(&m_nScreen, &m_nLine, name.data(), &settings, &size) == 0) {
-            ::fcntl(m_nScreen, F_SETFL, O_NONBLOCK);
             m_sName = name.data();
         }
     }
@@ -48,11 +46,18 @@ public:
     [[nodiscard]] int Line() const { return m_nLine; }
     [[nodiscard]] const std::string& Name() const { return m_sName; }
 
-    /// What has arrived since the last call.
+    /// What was sent since the last call. The kernel passes it on in its own time, so a mark behind
+    /// it is waited for.
     std::string Shown() {
-        std::array<char, 1024> text{};
-        const ssize_t count = ::read(m_nScreen, text.data(), text.size());
-        return {text.data(), count > 0 ? static_cast<std::size_t>(count) : 0};
+        constexpr char kMark = '\x01';
+        std::string text;
+        char next = 0;
+        if (::write(m_nLine, &kMark, 1) == 1) {
+            while (::read(m_nScreen, &next, 1) == 1 && next != kMark) {
+                text += next;
+            }
+        }
+        return text;
     }
 
 private:
