@@ -1,8 +1,24 @@
 # What is installed beside the program, and the Debian package that cpack makes of it.
+set(DORVEX_ZSH_DIRECTORY "${CMAKE_INSTALL_DATADIR}/zsh/site-functions"
+    CACHE STRING "Where the completion for zsh is installed")
+
 install(FILES docs/dorvex.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 install(FILES packaging/dorvex.bash-completion
     DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME dorvex)
-install(FILES docs/guide.md docs/messages.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+install(FILES packaging/dorvex.zsh-completion DESTINATION "${DORVEX_ZSH_DIRECTORY}" RENAME _dorvex)
+install(FILES packaging/dorvex.fish-completion
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d" RENAME dorvex.fish)
+
+# The guide as a text for the terminal: side by side, as on a web page, it cannot be read there.
+set(guide "${PROJECT_BINARY_DIR}/guide.txt")
+set(guide_sources "${PROJECT_SOURCE_DIR}/cmake/guide-text.awk" "${PROJECT_SOURCE_DIR}/docs/guide.md")
+execute_process(COMMAND awk -f ${guide_sources}
+    OUTPUT_FILE "${guide}" COMMAND_ERROR_IS_FATAL ANY)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${guide_sources})
+install(FILES
+    "${guide}"
+    docs/messages.md
+    DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 # By name: whoever tries the examples in their directory leaves the outputs there.
 set(examples
     catalogue-types.xsd
