@@ -18,6 +18,9 @@ set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${guide_sources})
 install(FILES
     "${guide}"
     docs/messages.md
+    docs/tutorial-copybook.md
+    docs/tutorial-mapping.md
+    docs/tutorial-schema.md
     DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 # By name: whoever tries the examples in their directory leaves the outputs there.
 set(examples
@@ -30,8 +33,14 @@ set(examples
     ktxmlmap.xsd
     order.xml
     order.xsd
+    parcel-lengths.cbl
+    parcel.xsd
     payment-types.xsd
     payment.xsd
+    plain-cobol.awk
+    stock-names.xml
+    stock.cpy
+    stock.xml
 )
 list(TRANSFORM examples PREPEND examples/)
 install(FILES ${examples} DESTINATION "${CMAKE_INSTALL_DOCDIR}/examples")
