@@ -46,6 +46,7 @@ function heading(text, mark) {
 
 /^```/ { flush(); code = !code; put(""); next }
 code { put($0 == "" ? "" : (inner ? "        " : "    ") $0); next }
+/^    / && paragraph == "" { put($0); next }
 /^<tr><td colspan/ { flush(); put(""); inner = title = 1; next }
 /^<\/td><td>$/ { flush(); put(""); put("    becomes"); put(""); next }
 /^<\/table>$/ { flush(); inner = 0; next }
