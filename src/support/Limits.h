@@ -1,6 +1,7 @@
 #ifndef DORVEX_SUPPORT_LIMITS_H
 #define DORVEX_SUPPORT_LIMITS_H
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -20,6 +21,10 @@ inline constexpr std::uint64_t kMaxGroupRepetitions = 20'000;
 
 inline const std::string kTooMuchEntityText =
     "entities expand to more than " + std::to_string(kMaxEntityText) + " characters";
+
+/// The time for which a server may send nothing, and what is fetched from one location at most.
+inline constexpr std::chrono::seconds kMaxFetchSilence{30};
+inline constexpr std::size_t kMaxFetchedBytes = 1UL << 30;
 
 /// The longest answer to a question that is looked at, its end included; of a longer one the rest
 /// is passed over, up to the second bound.
