@@ -17,6 +17,7 @@ foreach(source IN LISTS tidy_sources)
             "${PROJECT_BINARY_DIR}" "${PROJECT_SOURCE_DIR}/${source}" "${stamp}.log"
         COMMAND "${CMAKE_CXX_COMPILER}" -std=c++20
             -I "${PROJECT_SOURCE_DIR}/src" -I "${PROJECT_SOURCE_DIR}/tools"
+            -isystem "${LIBXML2_INCLUDE_DIR}"
             -MM -MT "${stamp}" -MF "${stamp}.d" "${PROJECT_SOURCE_DIR}/${source}"
         COMMAND "${CMAKE_COMMAND}" -E touch "${stamp}"
         DEPENDS

@@ -29,6 +29,9 @@ extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
     std::cerr.rdbuf(&g_Errors);
     std::cin.rdbuf(nullptr);
     DisplayHeader();
+    // Inputs name locations elsewhere.
+    ::setenv("DORVEX_NONET", "1", 1);
+    ::setenv("XML_CATALOG_FILES", "", 1);
     // The parser library stays up between inputs; to start it takes longer than a run.
     CKTDOMParser::InitializePlatform();
     return 0;

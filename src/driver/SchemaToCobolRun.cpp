@@ -11,7 +11,7 @@
 #include "support/Files.h"
 #include "support/Text.h"
 #include "xml/KTDOMParser.h"
-#include "xml/Paths.h"
+#include "xml/Locations.h"
 
 namespace {
 
@@ -64,7 +64,7 @@ std::optional<int> RunSchemaToCobol(const Settings& settings) {
         return 1;
     }
     WriteLine(std::cout, {"No schema errors found, processing XML schema ", schemaName});
-    const std::string schemaPath = FullPath(schemaName);
+    const std::string schemaPath = OpenedLocation(schemaName);
     WriteCopybook(parser, settings, schemaPath, copybookName);
     return {};
 }

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "schema/SchemaSet.h"
+#include "xml/Locations.h"
 #include "xml/Paths.h"
 
 namespace {
@@ -68,7 +69,8 @@ CKTXMLSchemaDoc::CKTXMLSchemaDoc(CKTSchemaSet& set, CKTXMLSchemaDoc* owner, std:
     : m_Set(set),
       m_pOwner(owner),
       m_sSchemaLocation(std::move(location)),
-      m_sBaseFile(m_sSchemaLocation) {}
+      m_sBaseFile(m_sSchemaLocation),
+      m_sOwnFile(m_sBaseFile) {}
 
 CKTXMLSchemaDoc* CKTXMLSchemaDoc::PreProcessSchema(CKTXMLElement* root, CKTXMLSchemaDoc* target) {
     if (root == nullptr) {
@@ -145,15 +147,28 @@ void CKTXMLSchemaDoc::ProcessImport(const CKTXMLElement* import, CKTXMLSchemaDoc
         m_Set.Keep(std::make_unique<CKTXMLNamespaceSchemaPair>(uri, doc)));
 }
 
-/// A location counts from the working directory; one that is written outside the main file and
-/// leads nowhere from there counts from the directory of the file that it is written in.
+/// A location counts from the working directory; one that leads nowhere from there counts from the
+/// place of the document that it is written in, unless that is the main file.
 std::string CKTXMLSchemaDoc::ImportPath(const std::string& location,
                                         const CKTXMLSchemaDoc* target) const {
-    const bool inMainFile = this == target;
-    if (inMainFile || location.find("://") != std::string::npos || !IsRelativePath(location)) {
+    const bool isElsewhere = IsLocation(m_sOwnFile);
+    const bool inMainFile = this == target && !isElsewhere;
+    if (inMainFile || IsLocation(location) || (!IsRelativePath(location) && !isElsewhere) ||
+        m_Set.Exists(location)) {
         return location;
     }
-    return m_Set.Exists(location) ? location : WeavePaths(m_sBaseFile, location);
+    return OpenedLocation(location, m_sOwnFile);
+}
+
+/// A location counts from the place of the document that it is written in. One that is included by
+/// a URL has the place of the document that includes it, and its own for what is not there.
+std::string CKTXMLSchemaDoc::IncludePath(const std::string& location) const {
+    if (IsLocation(location)) {
+        return location;
+    }
+    std::string path = IsRelativePath(location) ? WeavePaths(m_sBaseFile, location) : location;
+    const bool hasOnePlace = m_sOwnFile == m_sBaseFile && !IsLocation(m_sOwnFile);
+    return hasOnePlace || m_Set.Exists(path) ? path : OpenedLocation(location, m_sOwnFile);
 }
 
 CKTXMLSchemaDoc* CKTXMLSchemaDoc::LoadImport(const std::string& fileName, CKTXMLSchemaDoc* target) {
@@ -167,7 +182,8 @@ CKTXMLSchemaDoc* CKTXMLSchemaDoc::LoadImport(const std::string& fileName, CKTXML
         return nullptr;
     }
     CKTXMLSchemaDoc* doc = m_Set.Keep(std::make_unique<CKTXMLSchemaDoc>(m_Set));
-    doc->m_sBaseFile = FullPath(fileName);
+    doc->m_sBaseFile = OpenedLocation(fileName);
+    doc->m_sOwnFile = doc->m_sBaseFile;
     m_Set.RegisterImport(fileName, doc);
     const CKTSchemaSet::CKTLoadGuard loading(m_Set, fileName);
     doc->PreProcessSchema(root, target);
@@ -180,14 +196,7 @@ void CKTXMLSchemaDoc::ProcessInclude(const CKTXMLElement* include, CKTXMLSchemaD
     if (!findAttrByName(include, "schemaLocation", &location)) {
         return;
     }
-    std::string fileName = location;
-    std::string base = m_sBaseFile;
-    if (location.find("://") == std::string::npos) {
-        if (IsRelativePath(location)) {
-            fileName = WeavePaths(m_sBaseFile, location);
-        }
-        base = fileName;
-    }
+    const std::string fileName = IncludePath(location);
     const std::string uri = OwnNamespace();
     if (!m_Set.BeginInclude(fileName, uri)) {
         return;
@@ -199,7 +208,10 @@ void CKTXMLSchemaDoc::ProcessInclude(const CKTXMLElement* include, CKTXMLSchemaD
     if (AdoptNamespace(root, uri)) {
         m_Set.NoteAdoption(fileName);
     }
-    CKTXMLSchemaDoc included(m_Set, m_pOwner, base);
+    CKTXMLSchemaDoc included(m_Set, m_pOwner, IsLocation(location) ? m_sBaseFile : fileName);
+    if (IsLocation(location)) {
+        included.m_sOwnFile = OpenedLocation(location);
+    }
     included.PreProcessSchema(root, target);
     included.MergeInto(target);
     if (included.m_pSchemaElement == nullptr) {

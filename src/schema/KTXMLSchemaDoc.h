@@ -90,6 +90,7 @@ private:
     void ProcessImport(const CKTXMLElement* import, CKTXMLSchemaDoc* target);
     [[nodiscard]] std::string ImportPath(const std::string& location,
                                          const CKTXMLSchemaDoc* target) const;
+    [[nodiscard]] std::string IncludePath(const std::string& location) const;
     CKTXMLSchemaDoc* LoadImport(const std::string& fileName, CKTXMLSchemaDoc* target);
     void ProcessInclude(const CKTXMLElement* include, CKTXMLSchemaDoc* target,
                         CKTCarriedDeclarations& carried);
@@ -116,7 +117,8 @@ private:
     std::string m_sTargetNamespace;
     std::string m_sSchemaLocation;
     std::string
-        m_sBaseFile;  ///< what relative locations count from; set for imported documents too
+        m_sBaseFile;         ///< what relative locations count from; set for imported documents too
+    std::string m_sOwnFile;  ///< what was opened for this document, where that is another place
     std::unordered_map<const CKTXMLElement*, CKTXMLElement*> m_Replaced;
     CKTBroughtDeclarations m_Brought;  ///< while the main document is loaded
     ElementList m_IncludedList;        ///< brought into the main document by includes of this one

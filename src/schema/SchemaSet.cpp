@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "schema/KTXMLSchemaDoc.h"
+#include "xml/Locations.h"
 #include "xml/Paths.h"
 
 namespace {
@@ -45,7 +46,7 @@ bool CKTLoadedSchemaFiles::Exists(const std::string& fileName) const {
 }
 
 std::string CKTLoadedSchemaFiles::Identity(const std::string& fileName) const {
-    return FileIdentity(fileName);
+    return FileIdentity(OpenedLocation(fileName));
 }
 
 CKTSchemaSet::CKTSchemaSet(CKTSchemaFiles& files) : m_Files(files) {}

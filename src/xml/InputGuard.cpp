@@ -21,6 +21,7 @@
 #include "support/Text.h"
 #include "xml/InputSources.h"
 #include "xml/KTDOMErrorHandler.h"
+#include "xml/Locations.h"
 #include "xml/Paths.h"
 #include "xml/PatternSize.h"
 
@@ -150,12 +151,29 @@ std::unique_ptr<xercesc::InputSource> NothingInsteadOf(const XMLCh* systemId) {
 CKTInputGuard::CKTInputGuard(CKTDOMErrorHandler& handler) : m_Handler(handler) {}
 CKTInputGuard::~CKTInputGuard() = default;
 
+void CKTInputGuard::BeginLoad() {
+    m_NotFetched.clear();
+    m_Handler.setMuted(false);
+}
+
+bool CKTInputGuard::RefusesToFetch(const xercesc::InputSource& source) {
+    const std::optional<std::string> location = RefusedLocation(source);
+    if (!location) {
+        return false;
+    }
+    if (m_NotFetched.insert(*location).second) {
+        m_Handler.Refuse("Error : Network access is off, not fetched: \"" + *location + "\"");
+        m_Handler.setMuted(true);
+    }
+    return true;
+}
+
 bool CKTInputGuard::AdmitSchema(const xercesc::InputSource& source) {
     const std::u16string name = source.getSystemId();
     if (m_Admitted.contains(name)) {
         return true;
     }
-    m_Reached.insert(InputIdentity(source));
+    m_Reached.insert(FileIdentity(OpenedName(source)));
     CKTGuardHandler handler;
     try {
         const std::unique_ptr<xercesc::BinInputStream> probe(source.makeStream());
@@ -183,7 +201,7 @@ bool CKTInputGuard::AdmitSchema(const xercesc::InputSource& source) {
 }
 
 bool CKTInputGuard::HasReached(const std::string& fileName) const {
-    return m_Reached.contains(FileIdentity(fileName));
+    return m_Reached.contains(FileIdentity(OpenedLocation(fileName)));
 }
 
 bool CKTInputGuard::IsExternalSubset(const XMLCh* file, const XMLCh* name) const {
@@ -205,7 +223,9 @@ xercesc::InputSource* CKTInputGuard::resolveEntity(xercesc::XMLResourceIdentifie
             return NothingInsteadOf(name).release();
         }
         std::unique_ptr<xercesc::InputSource> source = MakeInputSource(file, name);
-        if (IsSchema(resource->getResourceIdentifierType()) && !AdmitSchema(*source)) {
+        // Of what is not fetched the library finds that it cannot be opened.
+        if (!RefusesToFetch(*source) && IsSchema(resource->getResourceIdentifierType()) &&
+            !AdmitSchema(*source)) {
             source = NothingInsteadOf(name);
         }
         return source.release();

@@ -26,6 +26,16 @@ public:
     explicit CKTInputGuard(CKTDOMErrorHandler& handler);
     ~CKTInputGuard() override;
 
+    /// Begins a load: nothing is refused yet and the handler is not muted.
+    void BeginLoad();
+
+    /// Says whether the source would be fetched while the network is off. The first time in a load
+    /// that is reported; the handler is muted for what the library says to it.
+    bool RefusesToFetch(const xercesc::InputSource& source);
+
+    /// Says whether anything was refused so in this load.
+    [[nodiscard]] bool HasRefusedToFetch() const { return !m_NotFetched.empty(); }
+
     /// Opens what the library asks for. A schema that is refused, and the external subset of a
     /// schema's document type, which only describes schemas, are empty instead.
     xercesc::InputSource* resolveEntity(xercesc::XMLResourceIdentifier* resource) override;
@@ -46,6 +56,7 @@ private:
     std::unique_ptr<xercesc::SAX2XMLReaderImpl> m_pReader;
     std::unordered_set<std::u16string> m_Admitted;
     std::unordered_set<std::string> m_Reached;
+    std::unordered_set<std::string> m_NotFetched;
     std::unordered_map<std::u16string, std::u16string> m_ExternalSubsets;
 };
 

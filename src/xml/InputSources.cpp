@@ -1,24 +1,23 @@
 // Inputs of the parser library. Files are opened here and not by the library, because it sends
-// their names through the locale and so misses those that the locale cannot decode; locations
-// elsewhere are left to it.
+// their names through the locale and so misses those that the locale cannot decode; locations go
+// through the catalogs first.
 
 #include "xml/InputSources.h"
 
 #include <sys/stat.h>
 
-#include <charconv>
 #include <optional>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
-#include <xercesc/framework/URLInputSource.hpp>
 #include <xercesc/util/BinFileInputStream.hpp>
 #include <xercesc/util/XMLURL.hpp>
 
 #include "support/FilesUsed.h"
 #include "support/Progress.h"
+#include "xml/Catalog.h"
 #include "xml/Paths.h"
+#include "xml/RemoteInput.h"
 
 namespace {
 
@@ -65,28 +64,21 @@ std::unique_ptr<xercesc::InputSource> NamedByUser(const XMLCh* name) {
     return MakeFileSource(IsRelativePath(path) ? WithoutDotDotSlash(full) : full, path);
 }
 
-/// Replaces the escapes of a URL by their bytes. Nothing when one is malformed.
-std::optional<std::string> Unescaped(std::string_view text) {
-    std::string bytes;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        unsigned byte = static_cast<unsigned char>(text[at]);
-        if (text[at] == '%') {
-            const std::string_view digits = text.substr(at + 1, 2);
-            const char* end = digits.data() + digits.size();
-            const auto [last, fault] = std::from_chars(digits.data(), end, byte, 16);
-            if (digits.size() != 2 || last != end || fault != std::errc()) {
-                return std::nullopt;
-            }
-            at += 2;
-        }
-        bytes += static_cast<char>(byte);
-    }
-    return bytes;
-}
-
 bool IsOnThisMachine(const xercesc::XMLURL& url) {
     return url.getProtocol() == xercesc::XMLURL::File &&
            (url.getHost() == nullptr || std::u16string_view(url.getHost()) == u"localhost");
+}
+
+/// What a catalog gives for a location. It is known by the name of what is opened, so that relative
+/// locations count from there and the file is the same however it is reached.
+std::unique_ptr<xercesc::InputSource> GivenByCatalog(const std::string& found) {
+    xercesc::XMLURL url;
+    if (IsLocation(found) && xercesc::XMLURL::parse(PathText(found).c_str(), url) &&
+        !IsOnThisMachine(url)) {
+        return std::make_unique<CKTRemoteSource>(url);
+    }
+    const std::string path = WithoutDotDotSlash(WithoutDotSlash(FullPath(LocalPath(found))));
+    return MakeFileSource(path, path);
 }
 
 }  // namespace
@@ -110,18 +102,37 @@ xercesc::BinInputStream* CKTFileSource::makeStream() const {
 }
 
 std::unique_ptr<xercesc::InputSource> MakeInputSource(const XMLCh* base, const XMLCh* name) {
+    std::string location = PathBytes(name);
+    std::optional<std::string> found =
+        IsLocation(location) ? FindInCatalogs(location) : std::nullopt;
     xercesc::XMLURL url;
-    const bool located =
-        base == nullptr ? xercesc::XMLURL::parse(name, url) : url.setURL(base, name, url);
-    if (!located || url.isRelative()) {
-        return base == nullptr ? NamedByUser(name) : NamedInFile(base, name);
+    if (!found) {
+        const bool located =
+            base == nullptr ? xercesc::XMLURL::parse(name, url) : url.setURL(base, name, url);
+        if (!located || url.isRelative()) {
+            return base == nullptr ? NamedByUser(name) : NamedInFile(base, name);
+        }
+        if (!IsLocation(location)) {
+            found = FindInCatalogs(PathBytes(url.getURLText()));
+        }
+    }
+    if (found) {
+        return GivenByCatalog(*found);
     }
     if (IsOnThisMachine(url)) {
         if (std::optional<std::string> path = Unescaped(PathBytes(url.getPath()))) {
             return std::make_unique<CKTFileSource>(url.getURLText(), std::move(*path));
         }
     }
-    return std::make_unique<xercesc::URLInputSource>(url);
+    return std::make_unique<CKTRemoteSource>(url);
+}
+
+std::optional<std::string> RefusedLocation(const xercesc::InputSource& source) {
+    if (dynamic_cast<const CKTRemoteSource*>(&source) != nullptr &&
+        CKTRemoteSource::IsNetworkOff()) {
+        return OpenedName(source);
+    }
+    return std::nullopt;
 }
 
 bool IsUnreadableFile(const xercesc::InputSource& source) {
@@ -131,7 +142,7 @@ bool IsUnreadableFile(const xercesc::InputSource& source) {
            !S_ISREG(status.st_mode);
 }
 
-std::string InputIdentity(const xercesc::InputSource& source) {
+std::string OpenedName(const xercesc::InputSource& source) {
     const auto* file = dynamic_cast<const CKTFileSource*>(&source);
-    return FileIdentity(file != nullptr ? file->path() : PathBytes(source.getSystemId()));
+    return file != nullptr ? FullPath(file->path()) : PathBytes(source.getSystemId());
 }

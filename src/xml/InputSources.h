@@ -2,6 +2,7 @@
 #define DORVEX_XML_INPUTSOURCES_H
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include <xercesc/sax/InputSource.hpp>
@@ -23,15 +24,18 @@ private:
 };
 
 /// Makes the source that `name` stands for where the file `base` writes it (null: the working
-/// directory, for a name that the user gave): a file, or a location elsewhere. Throws the library's
-/// exceptions.
+/// directory, for a name that the user gave): a file, or a location elsewhere. A location is looked
+/// up in the catalogs first. Throws the library's exceptions.
 std::unique_ptr<xercesc::InputSource> MakeInputSource(const XMLCh* base, const XMLCh* name);
 
 /// Says whether the source is a file that exists but cannot be read as one, and more than once: a
 /// directory, a pipe, a device.
 bool IsUnreadableFile(const xercesc::InputSource& source);
 
-/// The FileIdentity of a source.
-std::string InputIdentity(const xercesc::InputSource& source);
+/// The location of a source that would be fetched while the network is off; nothing for any other.
+std::optional<std::string> RefusedLocation(const xercesc::InputSource& source);
+
+/// The full name of the file, or the location, that a source opens.
+std::string OpenedName(const xercesc::InputSource& source);
 
 #endif

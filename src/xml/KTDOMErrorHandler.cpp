@@ -49,7 +49,10 @@ void CKTDOMErrorHandler::DisplayErrorMsg(const std::string& kind,
     if (m_bVerbose) {
         line += " : " + (message == nullptr ? std::string() : NarrowMessage(message));
     }
-    line += '\n';
+    Record(line + '\n', isWarning);
+}
+
+void CKTDOMErrorHandler::Record(const std::string& line, bool isWarning) const {
     if (m_pHeld == nullptr) {
         Report({line, isWarning ? 0 : 1, isWarning ? 1 : 0});
         return;

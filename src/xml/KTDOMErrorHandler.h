@@ -32,6 +32,10 @@ public:
     /// Chooses whether a line carries the message after its position.
     virtual void setVerboseError(bool verbose) { m_bVerbose = verbose; }
 
+    /// Prints and counts, or holds, `line` as an error, muted or not; it is no diagnostic of the
+    /// parser library and has its own words.
+    void Refuse(const std::string& line) { Record(line + '\n', false); }
+
     /// While muted, diagnostics are neither printed nor counted: they only follow from one that
     /// was.
     void setMuted(bool muted) { m_bMuted = muted; }
@@ -46,6 +50,7 @@ public:
 private:
     void DisplayErrorMsg(const std::string& kind, const xercesc::SAXParseException& e,
                          bool isWarning) const;
+    void Record(const std::string& line, bool isWarning) const;
 
     bool m_bVerbose = false;
     bool m_bMuted = false;

@@ -134,7 +134,7 @@ bool CKTDOMParser::ParseFile(const std::string& fileName, FILE_TYPE type, bool v
 /// Loads a schema with everything that it reaches. The grammar is given back at once: what a tree
 /// needs is checked then.
 bool CKTDOMParser::CKTLibrary::LoadSchema(const std::string& fileName) {
-    m_Handler.setMuted(false);
+    m_Guard.BeginLoad();
     const int errors = m_nErrorCount;
     const int warnings = m_nWarningCount;
     const std::unique_ptr<xercesc::InputSource> source = OpenSource(fileName);
@@ -143,13 +143,17 @@ bool CKTDOMParser::CKTLibrary::LoadSchema(const std::string& fileName) {
 }
 
 /// Makes the input source of a file. One that cannot be read as a file is reported here in the
-/// library's words: on its way to them the library loses memory, and a pipe would hold it up.
+/// library's words: on its way to them the library loses memory, and a pipe would hold it up. So is
+/// one that must not be fetched.
 std::unique_ptr<xercesc::InputSource> CKTDOMParser::CKTLibrary::OpenSource(
     const std::string& fileName) {
     RestartBytesRead();
     std::u16string fault = u"unable to read data from file";
     try {
         auto source = MakeInputSource(nullptr, PathText(fileName).c_str());
+        if (m_Guard.RefusesToFetch(*source)) {
+            return nullptr;
+        }
         if (!IsUnreadableFile(*source)) {
             return source;
         }
@@ -190,7 +194,7 @@ bool CKTDOMParser::CKTLibrary::Load(const xercesc::InputSource& source) {
 
 bool CKTDOMParser::CKTLibrary::ReadDocument(const std::string& fileName, bool validate,
                                             CKTXMLElement* root) {
-    m_Handler.setMuted(false);
+    m_Guard.BeginLoad();
     const std::unique_ptr<xercesc::InputSource> source = OpenSource(fileName);
     SetUp({validate, false}, root);
     return source != nullptr && Parse(*source);
@@ -198,7 +202,8 @@ bool CKTDOMParser::CKTLibrary::ReadDocument(const std::string& fileName, bool va
 
 bool CKTDOMParser::CKTLibrary::Parse(const xercesc::InputSource& source) {
     try {
-        return m_Reader.Read(source) && m_Reader.getErrorCount() < 1;
+        return m_Reader.Read(source) && m_Reader.getErrorCount() < 1 &&
+               !m_Guard.HasRefusedToFetch();
     } catch (const xercesc::XMLException& e) {
         ReportException("An error occured during parsing. Exception Message: ", e);
         ++m_nErrorCount;
@@ -215,7 +220,7 @@ bool CKTDOMParser::CKTLibrary::Parse(const xercesc::InputSource& source) {
 
 std::unique_ptr<CKTXMLElement> CKTDOMParser::CKTLibrary::ReadSchemaTree(
     const std::string& fileName) {
-    m_Handler.setMuted(false);
+    m_Guard.BeginLoad();
     const std::unique_ptr<xercesc::InputSource> source = OpenSource(fileName);
     std::unique_ptr<CKTXMLElement> root = MakeRoot();
     SetUp({false, true}, root.get());
@@ -225,7 +230,7 @@ std::unique_ptr<CKTXMLElement> CKTDOMParser::CKTLibrary::ReadSchemaTree(
 bool CKTDOMParser::CKTLibrary::IsFlawless(const std::string& fileName) {
     m_Held = {};
     m_Handler.setHeld(&m_Held);
-    m_Handler.setMuted(false);
+    m_Guard.BeginLoad();
     try {
         if (const auto source = OpenSource(fileName)) {
             SetUp({true, false}, nullptr);

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <climits>
 #include <cwchar>
 #include <filesystem>
@@ -57,6 +58,16 @@ void AppendUtf8(std::string& bytes, char32_t c) {
     bytes += continued(c);
 }
 
+/// A file's path without the beginning that makes it a URL.
+std::string_view WithoutScheme(std::string_view name) {
+    for (const std::string_view start : {"file://localhost/", "file:///"}) {
+        if (name.starts_with(start)) {
+            name.remove_prefix(start.size() - 1);
+        }
+    }
+    return name;
+}
+
 }  // namespace
 
 std::u16string PathText(std::string_view path) {
@@ -104,6 +115,34 @@ std::string PathBytes(std::u16string_view text) {
     return bytes;
 }
 
+bool IsLocation(std::string_view name) {
+    return name.find("://") != std::string_view::npos;
+}
+
+std::optional<std::string> Unescaped(std::string_view text) {
+    std::string bytes;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        unsigned byte = static_cast<unsigned char>(text[at]);
+        if (text[at] == '%') {
+            const std::string_view digits = text.substr(at + 1, 2);
+            const char* end = digits.data() + digits.size();
+            const auto [last, fault] = std::from_chars(digits.data(), end, byte, 16);
+            if (digits.size() != 2 || last != end || fault != std::errc()) {
+                return std::nullopt;
+            }
+            at += 2;
+        }
+        bytes += static_cast<char>(byte);
+    }
+    return bytes;
+}
+
+std::string LocalPath(std::string_view name) {
+    const std::string path(WithoutScheme(name));
+    std::error_code error;
+    return std::filesystem::exists(path, error) ? path : Unescaped(path).value_or(path);
+}
+
 bool IsRelativePath(const std::string& path) {
     return !path.empty() && path.front() != '/';
 }
@@ -149,13 +188,7 @@ std::string FullPath(const std::string& path) {
 }
 
 std::string FileIdentity(const std::string& name) {
-    std::string_view local = name;
-    for (const std::string_view start : {"file://localhost/", "file:///"}) {
-        if (name.starts_with(start)) {
-            local.remove_prefix(start.size() - 1);
-        }
-    }
     std::error_code error;
-    const std::filesystem::path path = std::filesystem::canonical(local, error);
+    const std::filesystem::path path = std::filesystem::canonical(WithoutScheme(name), error);
     return error ? name : path.string();
 }

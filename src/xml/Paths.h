@@ -1,6 +1,7 @@
 #ifndef DORVEX_XML_PATHS_H
 #define DORVEX_XML_PATHS_H
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -9,6 +10,16 @@
 /// byte for byte. A character of a document that the locale lacks is written in UTF-8.
 std::u16string PathText(std::string_view path);
 std::string PathBytes(std::u16string_view text);
+
+/// Says whether `name` is a location, such as a URL, and no file name.
+bool IsLocation(std::string_view name);
+
+/// Replaces the escapes of a URL by their bytes. Nothing when one is malformed.
+std::optional<std::string> Unescaped(std::string_view text);
+
+/// The path of a file that is named by a path or by a URL; escapes are decoded unless a file of
+/// the very name exists.
+std::string LocalPath(std::string_view name);
 
 /// Says whether `path` counts from a directory that it does not name.
 bool IsRelativePath(const std::string& path);
