@@ -30,12 +30,15 @@ std::string SearchPath() {
     return path != nullptr ? path : "/usr/bin:/bin";
 }
 
-std::vector<std::string> Environment(const Case& test, const fs::path& scratch) {
+std::vector<std::string> Environment(const Case& test, const fs::path& scratch,
+                                     const fs::path& tests) {
     return {"PATH=" + (scratch / "bin").string() + ":" + SearchPath(),
             "LC_ALL=" + test.locale,
             "HOME=" + scratch.string(),
             "TZ=UTC",
             "XML_CATALOG_FILES=",  // instead of the machine's catalog
+            "LSAN_OPTIONS=print_suppressions=0:suppressions=" +
+                fs::canonical(tests / "../scripts/lsan.supp").string(),
             std::string("ASAN_OPTIONS=") + kSanitizerOptions,
             std::string("UBSAN_OPTIONS=") + kSanitizerOptions};
 }
@@ -106,7 +109,7 @@ Failures RunCase(const fs::path& program, const fs::path& directory, const fs::p
     LinkPrograms(test, program, tests / "tools", scratch.Path() / "bin");
 
     ChildCommand command{.arguments = {"/bin/sh", "-c", test.command},
-                         .environment = Environment(test, scratch.Path()),
+                         .environment = Environment(test, scratch.Path(), tests),
                          .directory = work,
                          .limit = kLimit};
     if (fs::exists(directory / "stdin")) {
