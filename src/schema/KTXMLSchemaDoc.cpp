@@ -27,6 +27,17 @@ bool IsCarriedKind(const CKTXMLElement& e) {
     }
 }
 
+/// Reads where `part` is to be found: a location elsewhere as written, any other as a file name.
+bool FindLocation(const CKTXMLElement* part, std::string& location) {
+    if (!findAttrByName(part, "schemaLocation", &location)) {
+        return false;
+    }
+    if (location.find("://") == std::string::npos) {
+        location = WithBlanks(location);
+    }
+    return true;
+}
+
 /// Gives a schema without a namespace of its own that of the one that includes it. Says whether it
 /// has none of its own.
 bool AdoptNamespace(CKTXMLElement* root, const std::string& uri) {
@@ -135,8 +146,7 @@ void CKTXMLSchemaDoc::TakeBroughtDeclarations() {
 void CKTXMLSchemaDoc::ProcessImport(const CKTXMLElement* import, CKTXMLSchemaDoc* target) {
     std::string location;
     std::string uri;
-    if (!findAttrByName(import, "schemaLocation", &location) ||
-        !findAttrByName(import, "namespace", &uri)) {
+    if (!FindLocation(import, location) || !findAttrByName(import, "namespace", &uri)) {
         return;
     }
     CKTXMLSchemaDoc* doc = LoadImport(ImportPath(location, target), target);
@@ -193,7 +203,7 @@ CKTXMLSchemaDoc* CKTXMLSchemaDoc::LoadImport(const std::string& fileName, CKTXML
 void CKTXMLSchemaDoc::ProcessInclude(const CKTXMLElement* include, CKTXMLSchemaDoc* target,
                                      CKTCarriedDeclarations& carried) {
     std::string location;
-    if (!findAttrByName(include, "schemaLocation", &location)) {
+    if (!FindLocation(include, location)) {
         return;
     }
     const std::string fileName = IncludePath(location);

@@ -33,17 +33,6 @@ public:
     }
 };
 
-/// The library decodes this one escape in names that are no URL.
-std::u16string WithBlanks(std::u16string_view name) {
-    std::u16string result;
-    for (std::size_t at = 0; at < name.size(); ++at) {
-        const bool blank = name.substr(at, 3) == u"%20";
-        result += blank ? u' ' : name[at];
-        at += blank ? 2 : 0;
-    }
-    return result;
-}
-
 std::unique_ptr<xercesc::InputSource> MakeFileSource(const std::string& systemId,
                                                      std::string path) {
     return std::make_unique<CKTFileSource>(PathText(systemId), std::move(path));
@@ -51,7 +40,7 @@ std::unique_ptr<xercesc::InputSource> MakeFileSource(const std::string& systemId
 
 /// The file that `name` means in the file `base`.
 std::unique_ptr<xercesc::InputSource> NamedInFile(const XMLCh* base, const XMLCh* name) {
-    const std::string written = PathBytes(WithBlanks(name));
+    const std::string written = WithBlanks(PathBytes(name));
     std::string path =
         IsRelativePath(written) ? WeavePaths(PathBytes(base), written) : WithoutDotSlash(written);
     return MakeFileSource(path, path);

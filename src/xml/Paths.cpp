@@ -147,6 +147,16 @@ bool IsRelativePath(const std::string& path) {
     return !path.empty() && path.front() != '/';
 }
 
+std::string WithBlanks(std::string_view location) {
+    std::string path;
+    for (std::size_t at = 0; at < location.size(); ++at) {
+        const bool blank = location.substr(at, 3) == "%20";
+        path += blank ? ' ' : location[at];
+        at += blank ? 2 : 0;
+    }
+    return path;
+}
+
 std::string WithoutDotSlash(std::string path) {
     std::string result;
     for (std::size_t at = 0; at < path.size(); ++at) {

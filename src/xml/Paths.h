@@ -24,6 +24,10 @@ std::string LocalPath(std::string_view name);
 /// Says whether `path` counts from a directory that it does not name.
 bool IsRelativePath(const std::string& path);
 
+/// The file name that a location without "://" stands for: the parser library decodes this one
+/// escape there and no other.
+std::string WithBlanks(std::string_view location);
+
 /// Removes each "." segment, or each segment that a ".." behind it takes back, from a path.
 std::string WithoutDotSlash(std::string path);
 std::string WithoutDotDotSlash(std::string path);
