@@ -37,7 +37,17 @@ public:
     void setDocumentLocator(const xercesc::Locator* locator) override { m_pLocator = locator; }
     void startDTD(const XMLCh*, const XMLCh*, const XMLCh* systemId) override {
         m_bDocumentType = true;
-        m_sExternalSubset = systemId == nullptr ? u"" : systemId;
+        if (systemId != nullptr) {
+            m_ExternalSubset = systemId;
+        }
+    }
+    void internalEntityDecl(const XMLCh*, const XMLCh*) override { m_bDeclaresText = true; }
+    void externalEntityDecl(const XMLCh*, const XMLCh*, const XMLCh*) override {
+        m_bDeclaresText = true;
+    }
+    void attributeDecl(const XMLCh*, const XMLCh*, const XMLCh*, const XMLCh*,
+                       const XMLCh* value) override {
+        m_bDeclaresText = m_bDeclaresText || value != nullptr;
     }
     void startElement(const XMLCh*, const XMLCh*, const XMLCh* name,
                       const xercesc::Attributes& attributes) override {
@@ -45,7 +55,7 @@ public:
             Refuse("elements are nested deeper than " + std::to_string(kMaxSchemaDepth) +
                    " levels");
         }
-        if (m_bDocumentType) {
+        if (m_bDeclaresText) {
             for (XMLSize_t i = 0; i < attributes.getLength(); ++i) {
                 CountText(xercesc::XMLString::stringLen(attributes.getValue(i)));
             }
@@ -68,8 +78,10 @@ public:
 
     [[nodiscard]] const std::optional<SAXParseException>& refusal() const { return m_Refusal; }
 
-    /// The name of the external subset as written; empty without one.
-    [[nodiscard]] const std::u16string& externalSubset() const { return m_sExternalSubset; }
+    /// The name of the external subset as written, which may be empty.
+    [[nodiscard]] const std::optional<std::u16string>& externalSubset() const {
+        return m_ExternalSubset;
+    }
 
 private:
     void CountText(XMLSize_t length) {
@@ -103,7 +115,8 @@ private:
     XMLSize_t m_nEntityText = 0;
     std::uint64_t m_nPatternParts = 0;
     bool m_bDocumentType = false;
-    std::u16string m_sExternalSubset;
+    bool m_bDeclaresText = false;  ///< entities or defaults, which attributes may hold unseen
+    std::optional<std::u16string> m_ExternalSubset;
 };
 
 void ReadThrough(const xercesc::InputSource& source, xercesc::SAX2XMLReaderImpl& reader,
@@ -114,6 +127,7 @@ void ReadThrough(const xercesc::InputSource& source, xercesc::SAX2XMLReaderImpl&
     reader.setContentHandler(&handler);
     reader.setErrorHandler(&handler);
     reader.setLexicalHandler(&handler);
+    reader.setDeclarationHandler(&handler);
     xercesc::XMLPScanToken token;
     bool more = reader.parseFirst(source, token);
     while (more && !handler.refusal()) {
@@ -193,8 +207,8 @@ bool CKTInputGuard::AdmitSchema(const xercesc::InputSource& source) {
         m_Handler.setMuted(true);
         return false;
     }
-    if (!handler.externalSubset().empty()) {
-        m_ExternalSubsets.emplace(name, handler.externalSubset());
+    if (handler.externalSubset()) {
+        m_ExternalSubsets.emplace(name, *handler.externalSubset());
     }
     m_Admitted.insert(name);
     return true;

@@ -18,6 +18,7 @@
 #include <xercesc/util/XMLResourceIdentifier.hpp>
 #include <xercesc/util/XMLString.hpp>
 #include <xercesc/util/XMLUni.hpp>
+#include <xercesc/validators/DTD/DTDEntityDecl.hpp>
 #include <xercesc/validators/common/GrammarResolver.hpp>
 #include <xercesc/validators/schema/SchemaGrammar.hpp>
 
@@ -98,9 +99,7 @@ void CKTTreeReader::startElement(const xercesc::XMLElementDecl& declaration, uns
         CheckContentModels();
     }
     if (!getScanner()->getHasNoDTD()) {
-        for (XMLSize_t i = 0; i < count; ++i) {
-            CountEntityText(xercesc::XMLString::stringLen(attributes.elementAt(i)->getValue()));
-        }
+        CountAttributeText(attributes, count);
     }
     if (m_pCurrent != nullptr) {
         EndText();
@@ -228,6 +227,22 @@ void CKTTreeReader::CountEntityText(XMLSize_t length) {
     m_nEntityText += length;
     if (m_nEntityText > kMaxEntityText) {
         Refuse(kTooMuchEntityText);
+    }
+}
+
+/// Attributes do not tell which of their text comes from entities: all of it may, once there are
+/// any.
+void CKTTreeReader::CountAttributeText(const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
+                                       XMLSize_t count) {
+    xercesc::NameIdPool<xercesc::DTDEntityDecl>* entities = getScanner()->getEntityDeclPool();
+    const bool declaresEntities =
+        entities != nullptr &&
+        xercesc::NameIdPoolEnumerator<xercesc::DTDEntityDecl>(entities).hasMoreElements();
+    for (XMLSize_t i = 0; i < count; ++i) {
+        const xercesc::XMLAttr& attribute = *attributes.elementAt(i);
+        if (declaresEntities || !attribute.getSpecified()) {
+            CountEntityText(xercesc::XMLString::stringLen(attribute.getValue()));
+        }
     }
 }
 

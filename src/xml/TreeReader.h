@@ -66,6 +66,8 @@ private:
                        const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes, XMLSize_t count);
     void EndText();
     void CountEntityText(XMLSize_t length);
+    void CountAttributeText(const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
+                            XMLSize_t count);
     void CheckContentModels();
     [[noreturn]] void Refuse(const std::string& reason);
 
