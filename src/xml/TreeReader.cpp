@@ -18,7 +18,7 @@
 #include <xercesc/util/XMLResourceIdentifier.hpp>
 #include <xercesc/util/XMLString.hpp>
 #include <xercesc/util/XMLUni.hpp>
-#include <xercesc/validators/DTD/DTDEntityDecl.hpp>
+#include <xercesc/validators/DTD/DTDGrammar.hpp>
 #include <xercesc/validators/common/GrammarResolver.hpp>
 #include <xercesc/validators/schema/SchemaGrammar.hpp>
 
@@ -93,12 +93,15 @@ void CKTTreeReader::startElement(const xercesc::XMLElementDecl& declaration, uns
                                  const XMLCh* prefix,
                                  const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
                                  XMLSize_t count, bool isEmpty, bool isRoot) {
+    if (isRoot) {
+        NoteDocumentType();
+    }
     ++m_nDepth;
     if (m_bSchemaLoaded) {
         m_bSchemaLoaded = false;
         CheckContentModels();
     }
-    if (!getScanner()->getHasNoDTD()) {
+    if (m_bHasDocumentType) {
         CountAttributeText(attributes, count);
     }
     if (m_pCurrent != nullptr) {
@@ -230,17 +233,22 @@ void CKTTreeReader::CountEntityText(XMLSize_t length) {
     }
 }
 
-/// Attributes do not tell which of their text comes from entities: all of it may, once there are
-/// any.
+/// What the document type, if any, may have put into the attributes. It stands before the first
+/// element, and the name of that one is among its elements even if it declares nothing.
+void CKTTreeReader::NoteDocumentType() {
+    const auto* dtd = dynamic_cast<const xercesc::DTDGrammar*>(
+        getGrammarResolver()->getGrammar(xercesc::XMLUni::fgDTDEntityString));
+    m_bHasDocumentType = dtd != nullptr && dtd->getElemEnumerator().hasMoreElements();
+    m_bDeclaresEntities = dtd != nullptr && dtd->getEntityEnumerator().hasMoreElements();
+}
+
+/// Attributes do not tell how much of their text comes from entities: once there are any, all of it
+/// may. Defaults are repeated text as well.
 void CKTTreeReader::CountAttributeText(const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
                                        XMLSize_t count) {
-    xercesc::NameIdPool<xercesc::DTDEntityDecl>* entities = getScanner()->getEntityDeclPool();
-    const bool declaresEntities =
-        entities != nullptr &&
-        xercesc::NameIdPoolEnumerator<xercesc::DTDEntityDecl>(entities).hasMoreElements();
     for (XMLSize_t i = 0; i < count; ++i) {
         const xercesc::XMLAttr& attribute = *attributes.elementAt(i);
-        if (declaresEntities || !attribute.getSpecified()) {
+        if (m_bDeclaresEntities || !attribute.getSpecified()) {
             CountEntityText(xercesc::XMLString::stringLen(attribute.getValue()));
         }
     }

@@ -66,6 +66,7 @@ private:
                        const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes, XMLSize_t count);
     void EndText();
     void CountEntityText(XMLSize_t length);
+    void NoteDocumentType();
     void CountAttributeText(const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
                             XMLSize_t count);
     void CheckContentModels();
@@ -77,6 +78,8 @@ private:
     unsigned m_nDepth = 0;
     unsigned m_nOpenEntities = 0;
     std::uint64_t m_nEntityText = 0;
+    bool m_bHasDocumentType = false;
+    bool m_bDeclaresEntities = false;
     bool m_bSchemaLoaded = false;
     bool m_bInText = false;
     std::u16string m_sText;
