@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <clocale>
 #include <cstdio>
 #include <fstream>
 #include <iostream>
@@ -16,6 +17,7 @@ namespace {
 
 class ParserTest : public testing::Test {
 protected:
+    void SetUp() override { std::setlocale(LC_ALL, "C.UTF-8"); }
     void TearDown() override { std::remove(m_file.c_str()); }
     bool Parse(const std::string& text) {
         std::ofstream(m_file) << text;
@@ -46,6 +48,80 @@ TEST_F(ParserTest, AFailedParseIsCountedAndTheTreeHoldsTheLastText) {
     EXPECT_EQ(r->getName() + " " + r->getValue(), "p:r more");
     EXPECT_EQ(r->getFirstChildElem()->getValue(), "in");
     EXPECT_EQ(r->getAttribute("xmlns:p")->getValue(), "u");
+}
+
+std::string Shape(const CKTXMLElement* e) {
+    std::string text = e->getName() + "(";
+    for (const CKTXMLAttribute* a = e->getFirstAttr(); a != nullptr; a = a->getNextSibling()) {
+        text += (a == e->getFirstAttr() ? "" : " ") + a->getName() + "=" + a->getValue();
+    }
+    text += ")" + e->getValue() + "[";
+    for (const CKTXMLElement* c = e->getFirstChildElem(); c != nullptr; c = c->getNextSibling()) {
+        text += Shape(c);
+    }
+    return text + "]";
+}
+
+TEST_F(ParserTest, TheTreeHasTheShapeOfTheDocument) {
+    const char* const rows[][2] = {
+        {"<r b='2' a='1' B='3' a.b='5' a-b='4'/>", "r(B=3 a=1 a-b=4 a.b=5 b=2)[]"},
+        {"<p:r p:x='1' xmlns='d' x='2' xmlns:p='u' xml:lang='de'/>",
+         "p:r(p:x=1 x=2 xml:lang=de xmlns=d xmlns:p=u)[]"},
+        {"<r a=' b\n\tc '>\n<s/>\n</r>", "r(a= b  c )\n[s()[]]"},
+        {"<r>one<s>in</s></r>", "r()one[s()in[]]"},
+        {"<r>one<s/><t/>two<u/></r>", "r()two[s()[]t()[]u()[]]"},
+        {"<r>one<![CDATA[lost]]>two</r>", "r()two[]"},
+        {"<r>one<![CDATA[lost]]></r>", "r()one[]"},
+        {"<r><![CDATA[lost]]></r>", "r()[]"},
+        {"<r>one<!-- -->two</r>", "r()two[]"},
+        {"<r>one<?p?></r>", "r()one[]"},
+        {"<r>one&amp;two&#33;</r>", "r()one&two![]"},
+        {"<!DOCTYPE r [<!ENTITY e 'in'>]><r a='&e;'>one&e;two</r>", "r(a=in)oneintwo[]"},
+        {"<!DOCTYPE r [<!ENTITY e 'in<s/>to'>]><r>one&e;two</r>", "r()totwo[s()[]]"},
+        {"<!DOCTYPE r [<!ENTITY e 'in<!-- -->'>]><r>one&e;two</r>", "r()two[]"},
+        {"<!DOCTYPE r [<!ATTLIST r c CDATA 'def' b NMTOKEN #IMPLIED>]><r b='  x ' d=''/>",
+         "r(b=x c=def d=)[]"},
+        {"<!DOCTYPE r [<!ELEMENT r (s)>]><r>\n<s/> </r>", "r() [s()[]]"},
+        {"<!-- c --><?p?><r>\xc3\xa4</r><!-- c -->", "r()\xc3\xa4[]"},
+    };
+    for (const auto& [text, shape] : rows) {
+        ASSERT_TRUE(Parse(text)) << text;
+        EXPECT_EQ(Shape(m_parser.getXMLDocument().get()), "()[" + std::string(shape) + "]") << text;
+    }
+}
+
+// Blanks around names do not count in a schema; in any other document they do.
+TEST_F(ParserTest, NamesOfASchemaHaveNoBlanks) {
+    const std::string text =
+        "<x:schema xmlns:x='http://www.w3.org/2001/XMLSchema'><x:annotation><x:appinfo><a name=' n "
+        "' ref='&#9;r' type='t&#10;' base=' b' substitutionGroup='s ' memberTypes=' a  b ' "
+        "namespace=' u ' schemaLocation=' ' default=' d ' value=' v '/></x:appinfo>"
+        "</x:annotation></x:schema>";
+    const auto leaf = [](const CKTXMLElement* root) {
+        for (; root->getFirstChildElem() != nullptr; root = root->getFirstChildElem()) {
+        }
+        return Shape(root);
+    };
+    ASSERT_TRUE(Parse(text));
+    EXPECT_EQ(leaf(m_parser.getXMLDocument().get()),
+              "a(base= b default= d  memberTypes= a  b  name= n  namespace= u  ref=\tr "
+              "schemaLocation=  substitutionGroup=s  type=t\n value= v )[]");
+    const RedirectedStream console(std::cout);
+    ASSERT_TRUE(m_parser.ParseFile(m_file, CKTDOMParser::XML_SCHEMA, true));
+    EXPECT_EQ(leaf(m_parser.getXMLDocument().get()),
+              "a(base=b default= d  memberTypes=a  b name=n namespace=u ref=r schemaLocation= "
+              "substitutionGroup=s type=t value= v )[]");
+}
+
+// What the locale lacks is reported for each occurrence, in names and in texts.
+TEST_F(ParserTest, EachTextThatTheLocaleLacksIsReported) {
+    std::setlocale(LC_ALL, "C");
+    const RedirectedStream errors(std::cerr);
+    m_parser.ResetErrors();
+    ASSERT_TRUE(Parse("<r \xc3\xa4='1'><\xc3\xa4/><\xc3\xa4 a='\xc3\xa4'>\xc3\xa4</\xc3\xa4></r>"));
+    m_parser.getXMLDocument();
+    EXPECT_EQ(m_parser.getErrorCount(), 5) << errors.Text();
+    m_parser.ResetErrors();
 }
 
 TEST_F(ParserTest, AttributeValuesAreEscapedAndOtherTextIsNot) {
