@@ -17,7 +17,7 @@
 #include <libxml/xmlerror.h>
 
 #include "support/Console.h"
-#include "support/FilesRead.h"
+#include "support/FilesUsed.h"
 #include "xml/Paths.h"
 
 namespace {
