@@ -16,8 +16,9 @@ std::string Essence(const std::string& text, bool laidOut) {
     std::string kept;
     bool further = false;
     for (std::string line; std::getline(lines, line); further = laidOut) {
-        std::copy_if(line.begin() + (further ? 7 : 0), line.end(), std::back_inserter(kept),
-                     [](char c) { return std::string_view(" \t\r\"").find(c) > 3; });
+        std::copy_if(
+            line.begin() + (further ? 7 : 0), line.end(), std::back_inserter(kept),
+            [](char c) { return std::string_view(" \t\r\"'").find(c) == std::string_view::npos; });
     }
     return kept;
 }
