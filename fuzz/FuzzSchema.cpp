@@ -2,6 +2,7 @@
 
 #include "FuzzSupport.h"
 #include "driver/Runs.h"
+#include "support/Console.h"
 
 namespace {
 
@@ -18,7 +19,7 @@ std::string Convert(const std::vector<std::string>& files, std::size_t size) {
     for (std::size_t i = 0; i < files.size() && i < std::size(kNames); ++i) {
         WriteWhole(kNames[i], files[i]);
     }
-    const int status = RunSchemaToCobol(settings);
+    const int status = RunSchemaToCobol(settings).value_or(ExitStatus());
     const std::string copybook = ReadWhole("out.cpy");
     RequireFixedFormat(copybook);
     return std::to_string(status) + copybook;

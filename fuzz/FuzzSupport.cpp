@@ -45,7 +45,7 @@ void Require(bool kept, std::string_view promise) {
     }
 }
 
-// The program remembers which files it has checked, so no two runs may share a directory.
+// The program remembers which files it has read, so no two runs may share a directory.
 CKTFreshRun::CKTFreshRun(std::size_t size)
     : m_Directory(fs::temp_directory_path() / std::to_string(::getpid()) /
                   std::to_string(++g_nRuns)),
