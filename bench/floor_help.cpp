@@ -8,18 +8,18 @@
 
 namespace {
 
-constexpr std::string_view filler =
+constexpr std::string_view kFiller =
     "...............................................................................";
 
-constexpr std::array<std::size_t, 43> lineLengths{
+constexpr std::array<std::size_t, 43> kLineLengths{
     25, 40, 0,  7,  27, 0,  61, 65, 52, 0,  8, 0,  67, 32, 0,  68, 68, 68, 0,  65, 68, 70,
     29, 0,  67, 35, 0,  68, 63, 0,  63, 49, 0, 73, 30, 0,  68, 72, 61, 0,  78, 55, 0};
 
 }  // namespace
 
 int main() {
-    for (const std::size_t length : lineLengths) {
-        std::cout << filler.substr(0, length) << '\n';
+    for (const std::size_t length : kLineLengths) {
+        std::cout << kFiller.substr(0, length) << '\n';
     }
     return std::cout.flush() ? 0 : 1;
 }

@@ -30,7 +30,7 @@ struct LocalType {
     int secondValue;
 };
 
-constexpr std::array<LocalType, 17> localTypes{{
+constexpr std::array<LocalType, 17> kLocalTypes{{
     {"string", "maxLength", 35, "", 0},
     {"int", "", 0, "", 0},
     {"decimal", "totalDigits", 11, "fractionDigits", 2},
@@ -50,7 +50,7 @@ constexpr std::array<LocalType, 17> localTypes{{
     {"string", "", 0, "", 0},
 }};
 
-constexpr std::array<std::string_view, 50> words{
+constexpr std::array<std::string_view, 50> kWords{
     "account", "address", "agent",    "amount",   "area",     "article",  "balance", "bank",
     "batch",   "branch",  "buyer",    "carrier",  "category", "charge",   "city",    "claim",
     "code",    "contact", "country",  "credit",   "currency", "date",     "debit",   "deposit",
@@ -59,188 +59,188 @@ constexpr std::array<std::string_view, 50> words{
     "owner",   "party",   "period",   "price",    "product",  "rate",     "region",  "status",
     "term",    "unit"};
 
-std::string numbered(std::string_view word, std::size_t number) {
+std::string Numbered(std::string_view word, std::size_t number) {
     std::ostringstream text;
     text << word << '_' << std::setw(6) << std::setfill('0') << number;
     return text.str();
 }
 
-std::string nameOf(std::size_t number) {
-    return numbered(words[number % words.size()], number);
+std::string NameOf(std::size_t number) {
+    return Numbered(kWords[number % kWords.size()], number);
 }
 
-std::string indent(std::size_t depth) {
+std::string Indent(std::size_t depth) {
     return std::string(2 * depth, ' ');
 }
 
-void openSchema(std::ostream& out, std::string_view subject) {
+void OpenSchema(std::ostream& out, std::string_view subject) {
     out << R"(<?xml version="1.0" encoding="UTF-8"?>)" << '\n'
         << R"(<xs:schema xmlns:xs="http://www.w3.org/2001/XMLSchema" xmlns:t="urn:bench:)"
         << subject << R"(" targetNamespace="urn:bench:)" << subject
         << R"(" elementFormDefault="qualified">)" << '\n';
 }
 
-void closeSchema(std::ostream& out) {
+void CloseSchema(std::ostream& out) {
     out << "</xs:schema>\n";
 }
 
-void writeFacet(std::ostream& out, std::string_view facet, int value) {
+void WriteFacet(std::ostream& out, std::string_view facet, int value) {
     if (!facet.empty()) {
         out << "<xs:" << facet << " value=\"" << value << "\"/>";
     }
 }
 
-std::string_view occurrence(std::size_t number) {
+std::string_view Occurrence(std::size_t number) {
     if (number % 16 == 15) {
         return R"( maxOccurs="5")";
     }
     return number % 3 == 2 ? R"( minOccurs="0")" : "";
 }
 
-void writeLeaf(std::ostream& out, std::size_t depth, std::string_view name, std::size_t number) {
-    const LocalType& type = localTypes[number % localTypes.size()];
-    out << indent(depth) << "<xs:element name=\"" << name << '"';
+void WriteLeaf(std::ostream& out, std::size_t depth, std::string_view name, std::size_t number) {
+    const LocalType& type = kLocalTypes[number % kLocalTypes.size()];
+    out << Indent(depth) << "<xs:element name=\"" << name << '"';
     if (type.facet.empty()) {
-        out << " type=\"xs:" << type.base << '"' << occurrence(number) << "/>\n";
+        out << " type=\"xs:" << type.base << '"' << Occurrence(number) << "/>\n";
         return;
     }
-    out << occurrence(number) << ">\n"
-        << indent(depth + 1) << "<xs:simpleType><xs:restriction base=\"xs:" << type.base << "\">";
-    writeFacet(out, type.facet, type.value);
-    writeFacet(out, type.secondFacet, type.secondValue);
-    out << "</xs:restriction></xs:simpleType>\n" << indent(depth) << "</xs:element>\n";
+    out << Occurrence(number) << ">\n"
+        << Indent(depth + 1) << "<xs:simpleType><xs:restriction base=\"xs:" << type.base << "\">";
+    WriteFacet(out, type.facet, type.value);
+    WriteFacet(out, type.secondFacet, type.secondValue);
+    out << "</xs:restriction></xs:simpleType>\n" << Indent(depth) << "</xs:element>\n";
 }
 
-void openGroup(std::ostream& out, std::size_t depth, std::string_view name) {
-    out << indent(depth) << "<xs:element name=\"" << name << "\">\n"
-        << indent(depth + 1) << "<xs:complexType>\n"
-        << indent(depth + 2) << "<xs:sequence>\n";
+void OpenGroup(std::ostream& out, std::size_t depth, std::string_view name) {
+    out << Indent(depth) << "<xs:element name=\"" << name << "\">\n"
+        << Indent(depth + 1) << "<xs:complexType>\n"
+        << Indent(depth + 2) << "<xs:sequence>\n";
 }
 
-void closeGroup(std::ostream& out, std::size_t depth) {
-    out << indent(depth + 2) << "</xs:sequence>\n"
-        << indent(depth + 1) << "</xs:complexType>\n"
-        << indent(depth) << "</xs:element>\n";
+void CloseGroup(std::ostream& out, std::size_t depth) {
+    out << Indent(depth + 2) << "</xs:sequence>\n"
+        << Indent(depth + 1) << "</xs:complexType>\n"
+        << Indent(depth) << "</xs:element>\n";
 }
 
-void writeNamedType(std::ostream& out, std::size_t type, std::size_t locals) {
-    out << "  <xs:complexType name=\"" << numbered("Type", type) << "\">\n    <xs:sequence>\n";
+void WriteNamedType(std::ostream& out, std::size_t type, std::size_t locals) {
+    out << "  <xs:complexType name=\"" << Numbered("Type", type) << "\">\n    <xs:sequence>\n";
     for (std::size_t local = 0; local < locals; ++local) {
         const std::size_t number = type * locals + local;
-        writeLeaf(out, 3, nameOf(number), number);
+        WriteLeaf(out, 3, NameOf(number), number);
     }
     out << "    </xs:sequence>\n  </xs:complexType>\n";
 }
 
-void writeTypedElement(std::ostream& out, std::size_t depth, const std::string& name,
+void WriteTypedElement(std::ostream& out, std::size_t depth, const std::string& name,
                        std::size_t type) {
-    out << indent(depth) << "<xs:element name=\"" << name
-        << "\" type=\"t:" << numbered("Type", type) << "\"/>\n";
+    out << Indent(depth) << "<xs:element name=\"" << name
+        << "\" type=\"t:" << Numbered("Type", type) << "\"/>\n";
 }
 
 // The types stand before the elements that name them: the library looks for a type that it has not
 // met yet in all global declarations, one after the other.
-void writeTypesAndElements(std::ostream& out, std::size_t count) {
+void WriteTypesAndElements(std::ostream& out, std::size_t count) {
     for (std::size_t type = 0; type < count; ++type) {
-        writeNamedType(out, type, 4);
+        WriteNamedType(out, type, 4);
     }
     for (std::size_t element = 0; element < count; ++element) {
-        writeTypedElement(out, 1, numbered("Record", element), element);
+        WriteTypedElement(out, 1, Numbered("Record", element), element);
     }
 }
 
-void writeTypes(std::ostream& out, std::size_t count) {
-    openSchema(out, "types");
-    writeTypesAndElements(out, count);
-    closeSchema(out);
+void WriteTypes(std::ostream& out, std::size_t count) {
+    OpenSchema(out, "types");
+    WriteTypesAndElements(out, count);
+    CloseSchema(out);
 }
 
-void writeRefs(std::ostream& out, std::size_t count) {
-    openSchema(out, "refs");
-    writeTypesAndElements(out, count);
-    openGroup(out, 1, "Root");
+void WriteRefs(std::ostream& out, std::size_t count) {
+    OpenSchema(out, "refs");
+    WriteTypesAndElements(out, count);
+    OpenGroup(out, 1, "Root");
     for (std::size_t element = 0; element < count; ++element) {
-        out << indent(4) << "<xs:element ref=\"t:" << numbered("Record", element) << "\"/>\n";
+        out << Indent(4) << "<xs:element ref=\"t:" << Numbered("Record", element) << "\"/>\n";
     }
-    closeGroup(out, 1);
-    closeSchema(out);
+    CloseGroup(out, 1);
+    CloseSchema(out);
 }
 
 // How many items a group of this height can hold when no type has more children than there are
 // words.
-std::size_t capacity(std::size_t height) {
+std::size_t Capacity(std::size_t height) {
     std::size_t items = 1;
     for (std::size_t level = 0; level < height; ++level) {
-        items = 1 + words.size() * items;
+        items = 1 + kWords.size() * items;
     }
     return items;
 }
 
-void writeRepeating(std::ostream& out, std::size_t depth, std::string_view name, std::size_t items,
+void WriteRepeating(std::ostream& out, std::size_t depth, std::string_view name, std::size_t items,
                     std::size_t height) {
     if (items == 1) {
-        writeLeaf(out, depth, name, name.size() + depth);
+        WriteLeaf(out, depth, name, name.size() + depth);
         return;
     }
-    openGroup(out, depth, name);
+    OpenGroup(out, depth, name);
     std::size_t left = items - 1;
     for (std::size_t child = 0; left > 0; ++child) {
-        const std::size_t share = std::min(left, capacity(height - 1));
-        writeRepeating(out, depth + 3, words[child], share, height - 1);
+        const std::size_t share = std::min(left, Capacity(height - 1));
+        WriteRepeating(out, depth + 3, kWords[child], share, height - 1);
         left -= share;
     }
-    closeGroup(out, depth);
+    CloseGroup(out, depth);
 }
 
-void writeRepeat(std::ostream& out, std::size_t count) {
+void WriteRepeat(std::ostream& out, std::size_t count) {
     std::size_t height = 1;
-    while (capacity(height) < count) {
+    while (Capacity(height) < count) {
         ++height;
     }
-    openSchema(out, "repeat");
-    writeRepeating(out, 1, words.back(), count, height);
-    closeSchema(out);
+    OpenSchema(out, "repeat");
+    WriteRepeating(out, 1, kWords.back(), count, height);
+    CloseSchema(out);
 }
 
-void writeRecord(std::ostream& out, std::size_t count) {
-    constexpr std::size_t groupSize = 100;
-    openSchema(out, "record");
-    openGroup(out, 1, "Record");
+void WriteRecord(std::ostream& out, std::size_t count) {
+    constexpr std::size_t kGroupSize = 100;
+    OpenSchema(out, "record");
+    OpenGroup(out, 1, "Record");
     std::size_t number = 1;
     while (number < count) {
-        openGroup(out, 4, numbered("group", number++));
-        for (std::size_t field = 0; field < groupSize && number < count; ++field, ++number) {
-            writeLeaf(out, 7, nameOf(number), number);
+        OpenGroup(out, 4, Numbered("group", number++));
+        for (std::size_t field = 0; field < kGroupSize && number < count; ++field, ++number) {
+            WriteLeaf(out, 7, NameOf(number), number);
         }
-        closeGroup(out, 4);
+        CloseGroup(out, 4);
     }
-    closeGroup(out, 1);
-    closeSchema(out);
+    CloseGroup(out, 1);
+    CloseSchema(out);
 }
 
 // The library keeps local declarations in a fixed number of chains, so a schema with very many of
 // them loads slowly. Shared types give a long record from a short schema.
-void writeShared(std::ostream& out, std::size_t count) {
-    constexpr std::size_t types = 20;
-    constexpr std::size_t groupSize = 100;
-    openSchema(out, "shared");
-    for (std::size_t type = 0; type < types; ++type) {
-        writeNamedType(out, type, groupSize);
+void WriteShared(std::ostream& out, std::size_t count) {
+    constexpr std::size_t kTypes = 20;
+    constexpr std::size_t kGroupSize = 100;
+    OpenSchema(out, "shared");
+    for (std::size_t type = 0; type < kTypes; ++type) {
+        WriteNamedType(out, type, kGroupSize);
     }
-    openGroup(out, 1, "Record");
+    OpenGroup(out, 1, "Record");
     std::size_t left = count - 1;
-    for (std::size_t group = 0; left > groupSize; ++group) {
-        writeTypedElement(out, 4, numbered("group", group), group % types);
-        left -= groupSize + 1;
+    for (std::size_t group = 0; left > kGroupSize; ++group) {
+        WriteTypedElement(out, 4, Numbered("group", group), group % kTypes);
+        left -= kGroupSize + 1;
     }
     for (; left > 0; --left) {
-        writeLeaf(out, 4, numbered("single", left), left);
+        WriteLeaf(out, 4, Numbered("single", left), left);
     }
-    closeGroup(out, 1);
-    closeSchema(out);
+    CloseGroup(out, 1);
+    CloseSchema(out);
 }
 
-constexpr std::string_view documentSchema = R"(<?xml version="1.0" encoding="UTF-8"?>
+constexpr std::string_view kDocumentSchema = R"(<?xml version="1.0" encoding="UTF-8"?>
 <xs:schema xmlns:xs="http://www.w3.org/2001/XMLSchema" xmlns="urn:bench:orders"
            targetNamespace="urn:bench:orders" elementFormDefault="qualified">
   <xs:simpleType name="Key">
@@ -293,82 +293,82 @@ constexpr std::string_view documentSchema = R"(<?xml version="1.0" encoding="UTF
 </xs:schema>
 )";
 
-std::string key(char kind, std::size_t number) {
+std::string Key(char kind, std::size_t number) {
     std::ostringstream text;
     text << kind << std::setw(6) << std::setfill('0') << number % 1000000;
     return text.str();
 }
 
-std::string amount(std::size_t cents) {
+std::string Amount(std::size_t cents) {
     std::ostringstream text;
     text << cents / 100 << '.' << std::setw(2) << std::setfill('0') << cents % 100;
     return text.str();
 }
 
-void writeOrderLine(std::ostream& out, std::size_t line, std::size_t article, std::size_t cents) {
+void WriteOrderLine(std::ostream& out, std::size_t line, std::size_t article, std::size_t cents) {
     out << "    <line number=\"" << line << "\" unit=\"" << (article % 5 == 0 ? "kg" : "pcs")
-        << "\">\n      <article>" << key('A', article) << "</article>\n      <text>"
-        << words[article % words.size()] << " &amp; " << words[article / 7 % words.size()]
+        << "\">\n      <article>" << Key('A', article) << "</article>\n      <text>"
+        << kWords[article % kWords.size()] << " &amp; " << kWords[article / 7 % kWords.size()]
         << ", gr\xc3\xb6\xc3\x9f"
            "e "
         << article % 60 << "</text>\n      <quantity>" << 1 + article % 40
-        << "</quantity>\n      <price>" << amount(cents) << "</price>\n    </line>\n";
+        << "</quantity>\n      <price>" << Amount(cents) << "</price>\n    </line>\n";
 }
 
-std::string orderText(std::size_t number) {
-    constexpr std::array<std::string_view, 3> priorities{"low", "normal", "high"};
+std::string OrderText(std::size_t number) {
+    constexpr std::array<std::string_view, 3> kPriorities{"low", "normal", "high"};
     std::ostringstream out;
-    out << "  <order number=\"" << key('O', number) << "\" date=\"2024-" << std::setfill('0')
+    out << "  <order number=\"" << Key('O', number) << "\" date=\"2024-" << std::setfill('0')
         << std::setw(2) << 1 + number % 12 << '-' << std::setw(2) << 1 + number % 28
-        << "\" priority=\"" << priorities[number % priorities.size()]
-        << "\">\n    <customer number=\"" << key('C', number * 7)
-        << "\" country=\"DE\">\n      <name>" << words[number % words.size()]
-        << " and sons</name>\n      <street>" << words[number / 3 % words.size()] << " street "
-        << number % 250 << "</street>\n      <city>" << words[number / 11 % words.size()]
+        << "\" priority=\"" << kPriorities[number % kPriorities.size()]
+        << "\">\n    <customer number=\"" << Key('C', number * 7)
+        << "\" country=\"DE\">\n      <name>" << kWords[number % kWords.size()]
+        << " and sons</name>\n      <street>" << kWords[number / 3 % kWords.size()] << " street "
+        << number % 250 << "</street>\n      <city>" << kWords[number / 11 % kWords.size()]
         << "</city>\n    </customer>\n";
     if (number % 4 == 0) {
-        out << "    <note>to be delivered before noon to the " << words[number / 5 % words.size()]
+        out << "    <note>to be delivered before noon to the " << kWords[number / 5 % kWords.size()]
             << " office</note>\n";
     }
     std::size_t total = 0;
     for (std::size_t line = 1; line <= 1 + number % 8; ++line) {
         const std::size_t cents = 199 + (number * 131 + line * 977) % 90000;
-        writeOrderLine(out, line, number * 3 + line, cents);
+        WriteOrderLine(out, line, number * 3 + line, cents);
         total += cents;
     }
-    out << "    <total>" << amount(total) << "</total>\n  </order>\n";
+    out << "    <total>" << Amount(total) << "</total>\n  </order>\n";
     return out.str();
 }
 
-void writeDocument(std::ostream& out, std::size_t megabytes, std::string_view schema) {
+void WriteDocument(std::ostream& out, std::size_t megabytes, std::string_view schema) {
     out << R"(<?xml version="1.0" encoding="UTF-8"?>)" << '\n'
         << R"(<orders xmlns="urn:bench:orders" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance")"
         << R"( xsi:schemaLocation="urn:bench:orders )" << schema << "\">\n";
     std::size_t written = 0;
     for (std::size_t number = 0; written < megabytes * 1000000; ++number) {
-        const std::string order = orderText(number);
+        const std::string order = OrderText(number);
         out << order;
         written += order.size();
     }
     out << "</orders>\n";
 }
 
-void generate(std::ostream& out, const std::vector<std::string>& arguments) {
+void Generate(std::ostream& out, const std::vector<std::string>& arguments) {
     const std::string kind = arguments.empty() ? "" : arguments[0];
     if (kind == "document-schema" && arguments.size() == 1) {
-        out << documentSchema;
+        out << kDocumentSchema;
     } else if (kind == "document" && arguments.size() == 3) {
-        writeDocument(out, std::stoul(arguments[1]), arguments[2]);
+        WriteDocument(out, std::stoul(arguments[1]), arguments[2]);
     } else if (kind == "types" && arguments.size() == 2) {
-        writeTypes(out, std::stoul(arguments[1]));
+        WriteTypes(out, std::stoul(arguments[1]));
     } else if (kind == "refs" && arguments.size() == 2) {
-        writeRefs(out, std::stoul(arguments[1]));
+        WriteRefs(out, std::stoul(arguments[1]));
     } else if (kind == "repeat" && arguments.size() == 2) {
-        writeRepeat(out, std::stoul(arguments[1]));
+        WriteRepeat(out, std::stoul(arguments[1]));
     } else if (kind == "record" && arguments.size() == 2) {
-        writeRecord(out, std::stoul(arguments[1]));
+        WriteRecord(out, std::stoul(arguments[1]));
     } else if (kind == "shared" && arguments.size() == 2) {
-        writeShared(out, std::stoul(arguments[1]));
+        WriteShared(out, std::stoul(arguments[1]));
     } else {
         throw std::invalid_argument(
             "usage: generate types|refs|repeat|record|shared N"
@@ -381,7 +381,7 @@ void generate(std::ostream& out, const std::vector<std::string>& arguments) {
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
     try {
-        generate(std::cout, {argv + 1, argv + argc});
+        Generate(std::cout, {argv + 1, argv + argc});
         if (!std::cout.flush()) {
             throw std::runtime_error("the output cannot be written");
         }

@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr std::size_t groupSize = 50;
+constexpr std::size_t kGroupSize = 50;
 
 struct Form {
     std::string_view element;
@@ -22,7 +22,7 @@ struct Form {
     std::string_view type;
 };
 
-constexpr std::array<Form, 5> forms{{
+constexpr std::array<Form, 5> kForms{{
     {"numeric", R"-( digits="6" picture="9(6)")-", "integer"},
     {"alphanumeric", R"-( length="20" picture="X(20)")-", "string"},
     {"numeric", R"-( usage="comp-3" digits="9" alignment="2" picture="S9(7)V99" sign="ls")-",
@@ -31,29 +31,29 @@ constexpr std::array<Form, 5> forms{{
     {"numericEdited", R"-( length="9" picture="ZZ,ZZ9.99" blankWhenZero="true")-", "string"},
 }};
 
-std::string groupName(std::size_t item) {
-    return "GROUP-" + std::to_string(item / groupSize);
+std::string GroupName(std::size_t item) {
+    return "GROUP-" + std::to_string(item / kGroupSize);
 }
-std::string itemName(std::size_t item) {
+std::string ItemName(std::size_t item) {
     return "ITEM-" + std::to_string(item);
 }
 
-void writeDictionary(std::size_t items) {
+void WriteDictionary(std::size_t items) {
     std::cout << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                  "<program name=\"BENCH\">\n<dataItems>\n<group name=\"RECORD\">\n";
     for (std::size_t item = 0; item < items; ++item) {
-        if (item % groupSize == 0) {
-            std::cout << (item == 0 ? "" : "</group>\n") << "<group name=\"" << groupName(item)
+        if (item % kGroupSize == 0) {
+            std::cout << (item == 0 ? "" : "</group>\n") << "<group name=\"" << GroupName(item)
                       << "\">\n";
         }
-        const Form& form = forms.at(item % forms.size());
-        std::cout << "<" << form.element << " name=\"" << itemName(item) << "\"" << form.attributes
+        const Form& form = kForms.at(item % kForms.size());
+        std::cout << "<" << form.element << " name=\"" << ItemName(item) << "\"" << form.attributes
                   << "/>\n";
     }
     std::cout << "</group>\n</group>\n</dataItems>\n</program>\n";
 }
 
-void writeEntry(const std::string& name, const std::string& xmlName, std::string_view type) {
+void WriteEntry(const std::string& name, const std::string& xmlName, std::string_view type) {
     std::cout << "   <xml-cobol-mapping>\n      <cobol-name>" << name
               << "</cobol-name>\n      <cobol-count-in>true</cobol-count-in>\n      "
                  "<xml-name>"
@@ -62,12 +62,12 @@ void writeEntry(const std::string& name, const std::string& xmlName, std::string
                  "      <xml-namespace></xml-namespace>\n   </xml-cobol-mapping>\n";
 }
 
-void writeMapping(std::size_t items) {
+void WriteMapping(std::size_t items) {
     std::cout << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<xml-cobol-mapping-file>\n";
-    writeEntry("RECORD", "RECORD", "group");
+    WriteEntry("RECORD", "RECORD", "group");
     for (std::size_t item = 0; item < items; ++item) {
-        writeEntry("RECORD." + groupName(item) + "." + itemName(item), itemName(item) + "-x",
-                   forms.at(item % forms.size()).type);
+        WriteEntry("RECORD." + GroupName(item) + "." + ItemName(item), ItemName(item) + "-x",
+                   kForms.at(item % kForms.size()).type);
     }
     std::cout << "</xml-cobol-mapping-file>\n";
 }
@@ -79,9 +79,9 @@ int main(int argc, char** argv) {
     const std::string_view kind = argc == 3 ? argv[1] : "";
     const std::size_t items = argc == 3 ? std::strtoul(argv[2], nullptr, 10) : 0;
     if (kind == "dictionary") {
-        writeDictionary(items);
+        WriteDictionary(items);
     } else if (kind == "mapping") {
-        writeMapping(items);
+        WriteMapping(items);
     } else {
         std::cerr << "usage: generate_dictionary dictionary|mapping N\n";
         return 1;

@@ -63,7 +63,7 @@ private:
     posix_spawn_file_actions_t m_oActions{};
 };
 
-pid_t start(const Command& command) {
+pid_t Start(const Command& command) {
     std::vector<std::string> words = command;
     std::vector<char*> arguments;
     for (std::string& word : words) {
@@ -82,7 +82,7 @@ pid_t start(const Command& command) {
 }
 
 // A process that has ended keeps its counters until it is waited for.
-long writeCalls(pid_t ended) {
+long WriteCalls(pid_t ended) {
     std::ifstream counters("/proc/" + std::to_string(ended) + "/io");
     std::string name;
     long value = 0;
@@ -94,13 +94,13 @@ long writeCalls(pid_t ended) {
     throw std::runtime_error("no count of write calls in /proc/PID/io");
 }
 
-double seconds(const timeval& time) {
+double Seconds(const timeval& time) {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
 }
 
-Cost runOnce(const Command& command) {
+Cost RunOnce(const Command& command) {
     const auto begin = std::chrono::steady_clock::now();
-    const pid_t child = start(command);
+    const pid_t child = Start(command);
     siginfo_t ended{};
     while (waitid(P_PID, static_cast<id_t>(child), &ended, WEXITED | WNOWAIT) != 0) {
         if (errno != EINTR) {
@@ -109,7 +109,7 @@ Cost runOnce(const Command& command) {
     }
     Cost cost;
     cost.wall = std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-    cost.writes = writeCalls(child);
+    cost.writes = WriteCalls(child);
 
     int status = 0;
     rusage usage{};
@@ -120,16 +120,16 @@ Cost runOnce(const Command& command) {
         throw std::runtime_error(command.front() + " was killed by signal " +
                                  std::to_string(WTERMSIG(status)));
     }
-    cost.cpu = seconds(usage.ru_utime) + seconds(usage.ru_stime);
+    cost.cpu = Seconds(usage.ru_utime) + Seconds(usage.ru_stime);
     cost.peak = usage.ru_maxrss;
     cost.status = WEXITSTATUS(status);
     return cost;
 }
 
-Cost runBatch(const Command& command, int batch) {
-    Cost total = runOnce(command);
+Cost RunBatch(const Command& command, int batch) {
+    Cost total = RunOnce(command);
     for (int run = 1; run < batch; ++run) {
-        const Cost cost = runOnce(command);
+        const Cost cost = RunOnce(command);
         total.cpu += cost.cpu;
         total.wall += cost.wall;
         total.peak = std::max(total.peak, cost.peak);
@@ -141,7 +141,7 @@ Cost runBatch(const Command& command, int batch) {
     return total;
 }
 
-std::vector<Command> splitCommands(const std::vector<std::string>& words) {
+std::vector<Command> SplitCommands(const std::vector<std::string>& words) {
     std::vector<Command> commands(1);
     for (const std::string& word : words) {
         if (word == "--") {
@@ -158,24 +158,24 @@ std::vector<Command> splitCommands(const std::vector<std::string>& words) {
     return commands;
 }
 
-void print(int round, std::size_t number, const Cost& cost) {
+void Print(int round, std::size_t number, const Cost& cost) {
     std::printf("%d %zu %.6f %.6f %ld %ld %d\n", round, number, cost.cpu, cost.wall, cost.peak,
                 cost.writes, cost.status);
 }
 
-void measure(int rounds, int batch, const std::vector<Command>& commands) {
+void Measure(int rounds, int batch, const std::vector<Command>& commands) {
     std::vector<int> statuses;
     for (const Command& command : commands) {
-        statuses.push_back(runBatch(command, batch).status);
+        statuses.push_back(RunBatch(command, batch).status);
     }
     for (int round = 1; round <= rounds; ++round) {
         for (std::size_t i = 0; i < commands.size(); ++i) {
-            const Cost cost = runBatch(commands[i], batch);
+            const Cost cost = RunBatch(commands[i], batch);
             if (cost.status != statuses[i]) {
                 throw std::runtime_error(commands[i].front() +
                                          " does not always end with the same status");
             }
-            print(round, i + 1, cost);
+            Print(round, i + 1, cost);
         }
     }
 }
@@ -189,8 +189,8 @@ int main(int argc, char** argv) {
         return 2;
     }
     try {
-        measure(std::stoi(arguments[0]), std::stoi(arguments[1]),
-                splitCommands({arguments.begin() + 2, arguments.end()}));
+        Measure(std::stoi(arguments[0]), std::stoi(arguments[1]),
+                SplitCommands({arguments.begin() + 2, arguments.end()}));
     } catch (const std::exception& problem) {
         std::cerr << "measure: " << problem.what() << '\n';
         return 1;
