@@ -3,8 +3,6 @@
 
 #include <fstream>
 #include <ostream>
-#include <string>
-#include <string_view>
 
 #include <xercesc/dom/DOMNode.hpp>
 #include <xercesc/framework/XMLFormatter.hpp>
@@ -28,6 +26,15 @@ private:
     std::streambuf* m_pFileBuffer = nullptr;
 };
 
+/// The formatter behind one document's output, under a name that callers of the parser can hold
+/// without knowing the library.
+class CKTXMLFormatter : public xercesc::XMLFormatter {
+public:
+    /// Encodes in UTF-8 for `target` (borrowed); escapes nothing until told to. Throws the
+    /// library's exceptions.
+    explicit CKTXMLFormatter(CKTDOMFormatTarget& target);
+};
+
 /// Writes `n` spaces, unescaped.
 void writeIndent(xercesc::XMLFormatter& f, unsigned int n);
 
@@ -36,39 +43,6 @@ void writeElem(xercesc::XMLFormatter& f, const char* name);
 
 /// Writes a space and `name="value"`, the value with attribute escaping; leaves escaping off.
 void writeAttr(xercesc::XMLFormatter& f, const char* name, const char* value);
-
-/// Collects markup and writes it in large pieces. Plain ASCII is the same in the output's encoding
-/// and goes straight to the target; the formatter, which looks at every character, gets the rest.
-/// What is collected is written when the object ends, or earlier by Flush.
-class CKTMarkup {
-public:
-    CKTMarkup(xercesc::XMLFormatter& formatter, CKTDOMFormatTarget& target)
-        : m_Formatter(formatter), m_Target(target) {}
-    ~CKTMarkup() { Flush(); }
-    CKTMarkup(const CKTMarkup&) = delete;
-    CKTMarkup& operator=(const CKTMarkup&) = delete;
-
-    /// Adds ASCII text as it stands, after `indent` spaces.
-    void Add(std::string_view text, unsigned indent = 0);
-
-    /// Adds "<" and `name` after `indent` spaces; the caller ends the tag.
-    void AddTag(std::string_view name, unsigned indent);
-
-    /// Adds a space and `name="value"` with attribute escaping. A control character that XML cannot
-    /// hold becomes a question mark, here and in content.
-    void AddAttribute(const char* name, const std::string& value);
-
-    /// Adds element content, escaped so that it reads back as it is.
-    void AddContent(const std::string& text);
-
-    /// Writes what was collected so far.
-    void Flush();
-
-private:
-    xercesc::XMLFormatter& m_Formatter;
-    CKTDOMFormatTarget& m_Target;
-    std::string m_sPending;
-};
 
 /// Writes narrow text of the locale, or a node's name, with the formatter's current escaping; empty
 /// text writes nothing.

@@ -11,7 +11,6 @@
 #include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/SecurityManager.hpp>
 #include <xercesc/util/XMLException.hpp>
-#include <xercesc/util/XMLUni.hpp>
 #include <xercesc/validators/common/Grammar.hpp>
 
 #include "support/Console.h"
@@ -21,6 +20,7 @@
 #include "xml/InputGuard.h"
 #include "xml/InputSources.h"
 #include "xml/KTDOMErrorHandler.h"
+#include "xml/KTDOMFormatTarget.h"
 #include "xml/LibraryValidator.h"
 #include "xml/Paths.h"
 #include "xml/Platform.h"
@@ -85,7 +85,7 @@ public:
     bool isParsed = false;
     std::unique_ptr<CKTXMLElement> document;     ///< built by the last parse
     std::unique_ptr<CKTDOMFormatTarget> target;  ///< the output machinery
-    std::unique_ptr<xercesc::XMLFormatter> formatter;
+    std::unique_ptr<CKTXMLFormatter> formatter;
 
 private:
     std::unique_ptr<xercesc::InputSource> OpenSource(const std::string& fileName);
@@ -263,9 +263,7 @@ std::unique_ptr<CKTXMLElement> CKTDOMParser::getXMLDocument() {
     try {
         library.formatter.reset();
         library.target = std::make_unique<CKTDOMFormatTarget>();
-        library.formatter = std::make_unique<xercesc::XMLFormatter>(
-            xercesc::XMLUni::fgUTF8EncodingString, library.target.get(),
-            xercesc::XMLFormatter::NoEscapes, xercesc::XMLFormatter::UnRep_CharRef);
+        library.formatter = std::make_unique<CKTXMLFormatter>(*library.target);
     } catch (const xercesc::XMLException& e) {
         ReportException("An error occurred during creation of output transcoder. Msg is: ", e);
         return nullptr;
@@ -318,7 +316,7 @@ void CKTDOMParser::ResetErrors() {
     m_pLibrary->handler().resetErrors();
 }
 
-xercesc::XMLFormatter* CKTDOMParser::getXMLFormatter() const {
+CKTXMLFormatter* CKTDOMParser::getXMLFormatter() const {
     return m_pLibrary->formatter.get();
 }
 

@@ -4,9 +4,10 @@
 #include <memory>
 #include <string>
 
-#include "xml/KTDOMFormatTarget.h"
 #include "xml/KTXMLElement.h"
 
+class CKTDOMFormatTarget;
+class CKTXMLFormatter;
 struct CKTLibraryValidator;
 
 /// Reads files with the parser library, into the program's element trees or into nothing. A parser
@@ -71,7 +72,7 @@ public:
     void ResetErrors();
 
     /// The output machinery made by the last getXMLDocument; null before it.
-    [[nodiscard]] xercesc::XMLFormatter* getXMLFormatter() const;
+    [[nodiscard]] CKTXMLFormatter* getXMLFormatter() const;
     [[nodiscard]] CKTDOMFormatTarget* getFormatTarget() const;
 
 private:

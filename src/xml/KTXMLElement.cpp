@@ -139,7 +139,7 @@ void CKTXMLElement::findElement(const std::string& key, Compare compare,
     }
 }
 
-xercesc::XMLFormatter* CKTXMLElement::getXMLFormatter() const {
+CKTXMLFormatter* CKTXMLElement::getXMLFormatter() const {
     return m_pParser == nullptr ? nullptr : m_pParser->getXMLFormatter();
 }
 

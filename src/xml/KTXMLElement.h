@@ -8,15 +8,10 @@
 #include <string_view>
 #include <vector>
 
-#include <xercesc/util/XercesDefs.hpp>
-
-XERCES_CPP_NAMESPACE_BEGIN
-class XMLFormatter;
-XERCES_CPP_NAMESPACE_END
-
 class CKTDOMFormatTarget;
 class CKTDOMParser;
 class CKTXMLElement;
+class CKTXMLFormatter;
 
 /// The common ancestor of elements and attributes: helpers for qualified names. A tree holds few
 /// names many times, so each name stands once in the process, and nodes point at it.
@@ -137,7 +132,7 @@ public:
     /// The parser that built the tree, through which writers reach the XML output; null for a tree
     /// that was built by hand.
     void setParser(CKTDOMParser* parser) { m_pParser = parser; }
-    [[nodiscard]] xercesc::XMLFormatter* getXMLFormatter() const;
+    [[nodiscard]] CKTXMLFormatter* getXMLFormatter() const;
     [[nodiscard]] CKTDOMFormatTarget* getFormatTarget() const;
 
 private:

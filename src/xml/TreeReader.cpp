@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <type_traits>
 #include <vector>
 
 #include <xercesc/framework/XMLAttr.hpp>
@@ -28,6 +29,9 @@
 #include "xml/KTXMLElement.h"
 
 namespace {
+
+// Texts of the library are taken for u16string and back without a copy.
+static_assert(std::is_same_v<XMLCh, char16_t>);
 
 /// The library offers no way to leave a reading pass but an exception; it ends in Read.
 struct PassStopped {};

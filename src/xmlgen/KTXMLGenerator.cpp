@@ -125,8 +125,7 @@ const CKTDictionaryView& CKTXMLGenerator::View() {
 void CKTXMLGenerator::WriteOutput(FILE_TYPE type, CKTMarkup& markup,
                                   const std::string& dataDictFile, const std::string& prefix) {
     if (type != ENHANCED_COBOL) {
-        markup.Add("<?xml version=\"1.0\" encoding=\"" +
-                   NarrowText(m_pDictionary->getXMLFormatter()->getEncodingName()) + "\"?>\n");
+        markup.Add("<?xml version=\"1.0\" encoding=\"" + markup.EncodingName() + "\"?>\n");
     }
     const CKTDictionaryView& view = View();
     std::unique_ptr<CKTDictionaryWriter> writer;

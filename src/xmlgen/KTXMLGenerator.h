@@ -5,9 +5,9 @@
 #include <memory>
 #include <string>
 
-#include "xml/KTDOMFormatTarget.h"
 #include "xml/KTDOMParser.h"
 #include "xml/KTXMLElement.h"
+#include "xml/Markup.h"
 #include "xmlgen/DataDictionary.h"
 #include "xmlgen/DictionaryView.h"
 #include "xmlgen/DictionaryWriter.h"

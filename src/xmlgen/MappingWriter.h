@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "xml/KTDOMFormatTarget.h"
+#include "xml/Markup.h"
 #include "xmlgen/DictionaryWriter.h"
 
 /// Writes a mapping file: an entry with the defaults for each named data item that is no

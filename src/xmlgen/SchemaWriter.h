@@ -5,7 +5,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "xml/KTDOMFormatTarget.h"
+#include "xml/Markup.h"
 #include "xmlgen/DictionaryWriter.h"
 
 /// Writes the schema of a record: groups become complex types, elementary items simple types with

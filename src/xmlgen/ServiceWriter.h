@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "xml/KTDOMFormatTarget.h"
+#include "xml/Markup.h"
 #include "xmlgen/DictionaryWriter.h"
 
 /// Writes the older description of a record as a service: a `parameter` for the record, a `field`

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "xml/KTDOMFormatTarget.h"
+#include "xml/Markup.h"
 
 /// The namespaces of what the outputs are written in.
 constexpr const char* kSchemaNamespace = "http://www.w3.org/2001/XMLSchema";

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include "../support/RedirectedStream.h"
+#include "xml/KTDOMFormatTarget.h"
 
 namespace {
 
@@ -128,7 +129,7 @@ TEST_F(ParserTest, AttributeValuesAreEscapedAndOtherTextIsNot) {
     ASSERT_TRUE(Parse("<r/>"));
     const RedirectedStream console(std::cout);
     const auto root = m_parser.getXMLDocument();
-    xercesc::XMLFormatter& out = *root->getXMLFormatter();
+    CKTXMLFormatter& out = *root->getXMLFormatter();
     std::ofstream target(m_file);
     root->getFormatTarget()->setTarget(&target);
     writeIndent(out, 0);
