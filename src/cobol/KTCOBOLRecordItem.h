@@ -1,7 +1,6 @@
 #ifndef DORVEX_COBOL_KTCOBOLRECORDITEM_H
 #define DORVEX_COBOL_KTCOBOLRECORDITEM_H
 
-#include <cstdint>
 #include <iosfwd>
 #include <memory>
 #include <string>
@@ -9,6 +8,7 @@
 #include <vector>
 
 #include "cobol/ItemText.h"
+#include "support/Limits.h"
 
 class CKTXMLElement;
 
@@ -17,8 +17,8 @@ class CKTXMLElement;
 /// have a million items, so texts that stand in the schema's tree are shared with it.
 class CKTCOBOLRecordItem {
 public:
-    static constexpr int kMaxLevel = 49;
-    static constexpr int kConditionLevel = 88;
+    static constexpr int kMaxLevel = kMaxItemLevel;
+    static constexpr int kConditionLevel = kConditionNameLevel;
 
     /// What an item can be written as, its children aside.
     enum class Form {
@@ -27,9 +27,6 @@ public:
         Group,      ///< a group, if one of its children can be written that is no condition name
         Incomplete  ///< something that is missing a picture
     };
-
-    /// How a derivation gave the item its content.
-    enum ContentKind : std::uint8_t { OTHER_CONTENT = 0, COMPLEX_CONTENT = 1, SIMPLE_CONTENT = 2 };
 
     CKTCOBOLRecordItem() = default;
     virtual ~CKTCOBOLRecordItem() = default;
@@ -97,9 +94,6 @@ public:
     int m_nDepth = 0;               ///< blanks before the level in the built line
     bool m_bHasFraction = false;    ///< the picture may take decimal places
     bool m_bIsAttribute = false;    ///< the item comes from an XML attribute
-    bool m_bIsReference = false;    ///< the item waits for the declaration that it refers to
-    bool m_bHasMixedValue = false;  ///< an item for mixed content was made below it
-    bool m_bIsList = false;         ///< the value is of a list type, which has no COBOL form
     CKTItemText m_sFractionDigits;  ///< digits after the decimal point
     CKTItemText m_sDataName;        ///< set through setCOBOLDataName
     CKTItemText m_sPicType;         ///< picture symbol: "X", "9", "S9"
@@ -112,12 +106,10 @@ public:
     CKTItemText m_sValue;           ///< the value of a condition name
     CKTItemText m_sUsage;           ///< the USAGE phrase, empty for display items
     CKTCOBOLRecordItem* m_pRedefines = nullptr;       ///< the item that this one redefines
-    CKTCOBOLRecordItem* m_pValueItem = nullptr;       ///< the child that the value has moved to
     CKTCOBOLRecordItem* m_pParent = nullptr;          ///< null for a level-01 item
     const CKTXMLElement* m_pSchemaElement = nullptr;  ///< the declaration that the item stands for
     const CKTXMLElement* m_pSourceElement = nullptr;  ///< the type definition walked into the item
     std::vector<std::unique_ptr<CKTCOBOLRecordItem>> m_Children;
-    ContentKind m_nContentKind = OTHER_CONTENT;
     bool m_bFoundValid = false;  ///< the writer has seen that the item can be written
 
 private:

@@ -1,23 +1,34 @@
-// Element and attribute declarations: where record items are born.
+// Element and attribute declarations: where record items are born. A declaration makes its item,
+// fills it with what it says itself, and then takes its content from a reference, a named type or
+// what stands below it. What a reference leads to fills the item of the reference.
 
 #include <array>
-#include <iostream>
+#include <string>
+#include <utility>
 
 #include "schema/ActiveGuard.h"
-#include "schema/KTCOBOLGenerator.h"
+#include "schema/Complaints.h"
+#include "schema/Handlers.h"
 #include "schema/Occurrence.h"
-#include "support/Console.h"
+#include "schema/SchemaVocabulary.h"
+
+namespace {
 
 /// What tells the two kinds of declaration apart.
-struct CKTCOBOLGenerator::DeclarationTraits {
+struct DeclarationTraits {
+    GeneratorKind kind;
     DeclarationList list;
-    bool isAttribute;
-    std::string_view notFoundStart;
-    std::string_view notFoundEnd;
+    void (*reportMissing)(std::string_view reference);
+
+    [[nodiscard]] bool IsAttribute() const { return kind == GeneratorKind::Attribute; }
 };
 
+constexpr DeclarationTraits kElement = {GeneratorKind::Element, ELEMENTS, ReportMissingReference};
+constexpr DeclarationTraits kAttribute = {GeneratorKind::Attribute, ATTRIBUTES,
+                                          ReportMissingAttribute};
+
 /// The attributes of a declaration that count, read in one pass; null for those that are not there.
-struct CKTCOBOLGenerator::WrittenDeclaration {
+struct WrittenDeclaration {
     const std::string* name = nullptr;
     const std::string* ref = nullptr;
     const std::string* type = nullptr;
@@ -30,7 +41,7 @@ struct CKTCOBOLGenerator::WrittenDeclaration {
     explicit WrittenDeclaration(const CKTXMLElement* declaration);
 };
 
-CKTCOBOLGenerator::WrittenDeclaration::WrittenDeclaration(const CKTXMLElement* declaration) {
+WrittenDeclaration::WrittenDeclaration(const CKTXMLElement* declaration) {
     using Field = const std::string* WrittenDeclaration::*;
     static constexpr std::array<std::pair<std::string_view, Field>, 8> kFields = {{
         {"name", &WrittenDeclaration::name},
@@ -53,65 +64,28 @@ CKTCOBOLGenerator::WrittenDeclaration::WrittenDeclaration(const CKTXMLElement* d
     }
 }
 
-CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementElement(CKTXMLElement* element, unsigned level,
-                                                             unsigned indent, Item** current) {
-    static constexpr DeclarationTraits kElement = {
-        ELEMENTS, false, "Error : Cannot find referenced element ",
-        ".  Element will not be converted to COBOL record item."};
-    const WrittenDeclaration written(element);
-    if (IsNever(written.maxOccurs)) {
-        return *current;
+/// Says whether `target`, which the declaration of `item` refers to or has as its complex type
+/// (null for neither), is being converted above `item`.
+bool isRecursivePattern(const CKTCOBOLRecordItem& item, const CKTXMLElement* target) {
+    if (target == nullptr) {
+        return false;
     }
-    return ProcessDeclaration(element, kElement, written, level, indent, current);
-}
-
-CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessAttributeElement(CKTXMLElement* element,
-                                                               unsigned level, unsigned indent,
-                                                               Item** current) {
-    static constexpr DeclarationTraits kAttribute = {ATTRIBUTES, true,
-                                                     "Error : Cannot find group reference ", ""};
-    const WrittenDeclaration written(element);
-    if (written.use != nullptr && *written.use == "prohibited") {
-        return nullptr;
-    }
-    return ProcessDeclaration(element, kAttribute, written, level, indent, current);
-}
-
-CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessDeclaration(CKTXMLElement* element,
-                                                          const DeclarationTraits& traits,
-                                                          const WrittenDeclaration& written,
-                                                          unsigned level, unsigned indent,
-                                                          Item** current) {
-    Item* item = *current;
-    const bool reused = item != nullptr && item->m_bIsReference &&
-                        getElementType(item->m_pSchemaElement) == getElementType(element);
-    if (!reused) {
-        const std::string* shown = written.name != nullptr ? written.name : written.ref;
-        item = MakeItem(*current, shown == nullptr ? std::string_view() : *shown, level, indent);
-        if (item == nullptr) {
-            return nullptr;
+    for (const CKTCOBOLRecordItem* up = item.m_pParent; up != nullptr; up = up->m_pParent) {
+        if (up->m_pSchemaElement == target || up->m_pSourceElement == target) {
+            return true;
         }
-        item->m_bIsAttribute = traits.isAttribute;
     }
-    FillFromDeclaration(item, element, written, reused);
-    // A reused item is filled on behalf of the reference, which has to learn of its removal.
-    Item* own = item;
-    Item** cursor = reused ? current : &own;
-    const bool filled = FillContent(element, traits, written, level, indent, cursor);
-    if (*cursor != item) {
-        return nullptr;
-    }
-    if (!filled && !reused) {
-        RemoveItem(item);
-    }
-    return filled ? item : nullptr;
+    return false;
 }
 
-void CKTCOBOLGenerator::FillFromDeclaration(Item* item, const CKTXMLElement* element,
-                                            const WrittenDeclaration& written, bool reused) {
-    item->m_pSchemaElement = element;
-    item->m_bIsReference = false;
-    if (!reused) {
+CKTCOBOLRecordItem* MakeDeclaredItem(CKTRecordTree& records, const DeclarationTraits& traits,
+                                     const WrittenDeclaration& written,
+                                     CKTCOBOLRecordItem* parent) {
+    const std::string* shown = written.name != nullptr ? written.name : written.ref;
+    CKTCOBOLRecordItem* item =
+        records.MakeItem(parent, shown == nullptr ? std::string_view() : *shown);
+    if (item != nullptr) {
+        item->m_bIsAttribute = traits.IsAttribute();
         item->m_sMinOccurs = "1";
         if (written.minOccurs != nullptr) {
             item->m_sMinOccurs.Share(*written.minOccurs);
@@ -120,125 +94,117 @@ void CKTCOBOLGenerator::FillFromDeclaration(Item* item, const CKTXMLElement* ele
             item->m_sMaxOccurs.Share(*written.maxOccurs);
         }
     }
-    item->m_sValue = std::string_view();
+    return item;
+}
+
+/// Gives the item what the declaration says that is not about its occurrence, which stays that of
+/// the reference.
+void FillFromDeclaration(CKTNameResolver& resolver, const CKTXMLElement* declaration,
+                         const WrittenDeclaration& written, CKTCOBOLRecordItem& item) {
+    item.m_pSchemaElement = declaration;
+    item.m_sValue = std::string_view();
     if (written.defaultValue != nullptr) {
-        item->m_sValue.Share(*written.defaultValue);
+        item.m_sValue.Share(*written.defaultValue);
     } else if (written.fixed != nullptr) {
-        item->m_sValue.Share(*written.fixed);
+        item.m_sValue.Share(*written.fixed);
     }
-    const DeclaredNames& names = NamesOf(element, written.name);
+    const DeclaredNames& names = resolver.NamesOf(declaration, written.name);
     if (written.name != nullptr) {
-        item->m_sXMLName.Share(*written.name);
-        item->m_sDataName.Share(names.dataName);
-        item->m_sCountInName.Share(names.countInName);
+        item.m_sXMLName.Share(*written.name);
+        item.m_sDataName.Share(names.dataName);
+        item.m_sCountInName.Share(names.countInName);
     }
-    item->m_sNamespace.Share(*names.uri);
+    item.m_sNamespace.Share(*names.uri);
 }
 
-/// The names that the items of `element` take from it; `name` is its `name`, null for a reference.
-const CKTCOBOLGenerator::DeclaredNames& CKTCOBOLGenerator::NamesOf(const CKTXMLElement* element,
-                                                                   const std::string* name) {
-    const auto [found, isNew] = m_DeclaredNames.try_emplace(element);
-    DeclaredNames& names = found->second;
-    if (isNew) {
-        names.uri = FindNamespace(element, "targetNamespace");
-        if (name != nullptr) {
-            CKTItemText dataName;
-            Item::setCOBOLDataName(dataName, *name);
-            names.dataName = dataName;
-            names.countInName = names.dataName + "-count";
-        }
-    }
-    return names;
-}
-
-bool CKTCOBOLGenerator::FillContent(CKTXMLElement* element, const DeclarationTraits& traits,
-                                    const WrittenDeclaration& written, unsigned level,
-                                    unsigned indent, Item** cursor) {
-    if (written.ref != nullptr) {
-        return FillFromReference(element, *written.ref, traits, level, indent, cursor);
-    }
-    if (!traits.isAttribute && elementHasSubGroup(*cursor)) {
-        WriteLine(std::cerr, {"Warning : substitionGroup encountered"});
-    }
-    if (written.type != nullptr) {
-        return FillFromType(element, *written.type, traits, level, indent, cursor);
-    }
-    WalkChildren(element, level, indent, cursor);
-    return true;
-}
-
-bool CKTCOBOLGenerator::FillFromReference(const CKTXMLElement* element, const std::string& ref,
-                                          const DeclarationTraits& traits, unsigned level,
-                                          unsigned indent, Item** cursor) {
-    CKTXMLElement* target = FindReferenced(element, ref, traits.list);
+Answer TakeReference(CKTWalk& walk, const CKTXMLElement* declaration, const std::string& ref,
+                     const DeclarationTraits& traits, OpenItem& open) {
+    CKTXMLElement* target = walk.Names().FindReferenced(declaration, ref, traits.list);
     if (target == nullptr) {
-        WriteLine(std::cerr, {traits.notFoundStart, ref, traits.notFoundEnd});
-        return false;
+        traits.reportMissing(ref);
+        return Answer::Nothing;
     }
-    if (!traits.isAttribute && isRecursivePattern(*cursor, target)) {
-        WriteLine(std::cerr,
-                  {"Error : Cannot convert recursive reference of ", ref, " to COBOL record"});
-        return false;
+    if (!traits.IsAttribute() && isRecursivePattern(*open.item, target)) {
+        ReportRecursion(ref);
+        return Answer::Nothing;
     }
-    (*cursor)->m_bIsReference = true;
-    return getCOBOLFromSchema(target, level, indent, cursor) != nullptr;
+    open.isReference = true;
+    return walk.Walk(target, open);
 }
 
-bool CKTCOBOLGenerator::FillFromType(const CKTXMLElement* element, const std::string& type,
-                                     const DeclarationTraits& traits, unsigned level,
-                                     unsigned indent, Item** cursor) {
-    Item* item = *cursor;
-    const NameMeaning& meaning = MeaningOfType(element, type);
+Answer TakeNamedType(CKTWalk& walk, const CKTXMLElement* declaration, const std::string& type,
+                     const DeclarationTraits& traits, OpenItem& open) {
+    const NameMeaning& meaning = walk.Names().MeaningOfType(declaration, type);
     if (meaning.builtIn != nullptr) {
-        TakeBuiltIn(item, *meaning.builtIn);
-        return true;
+        TakeBuiltIn(*open.item, *meaning.builtIn);
+        return Answer::Made;
     }
     CKTXMLElement* definition = meaning.declaration;
     if (definition == nullptr) {
-        WriteLine(std::cerr,
-                  {"Warning : An unsupported type ", type,
-                   " has been referenced.  Element will not be converted to COBOL record "
-                   "item."});
-        return false;
+        ReportUnsupportedType(type);
+        return Answer::Nothing;
     }
-    if (!traits.isAttribute && isRecursivePattern(item, meaning.complexType)) {
-        WriteLine(std::cerr,
-                  {"Error : Cannot convert recursive reference of ", type, " to COBOL record"});
-        return false;
+    if (!traits.IsAttribute() && isRecursivePattern(*open.item, meaning.complexType)) {
+        ReportRecursion(type);
+        return Answer::Nothing;
     }
-    const CKTActiveGuard active(m_ActiveTypes, ActiveType(item, definition));
-    getCOBOLFromSchema(definition, level, indent, cursor);
-    return true;
+    const CKTActiveGuard active(walk.TypesWalked(), CKTWalk::ActiveType(open.item, definition));
+    return WithoutNothing(walk.Walk(definition, open));
 }
 
-/// Says whether `target`, which the declaration of `item` refers to or has as its complex type
-/// (null for neither), is being converted above `item`.
-bool CKTCOBOLGenerator::isRecursivePattern(const Item* item, const CKTXMLElement* target) {
-    if (item == nullptr || target == nullptr) {
-        return false;
-    }
-    for (const Item* up = item->m_pParent; up != nullptr; up = up->m_pParent) {
-        if (up->m_pSchemaElement == target || up->m_pSourceElement == target) {
-            return true;
-        }
-    }
-    return false;
+bool elementHasSubGroup(CKTNameResolver& names, const CKTCOBOLRecordItem& item) {
+    return names.IsSubstitutionHead(item.m_sXMLName, item.m_sNamespace);
 }
 
-bool CKTCOBOLGenerator::elementHasSubGroup(const Item* item) {
-    if (item == nullptr || m_pDocument == nullptr) {
-        return false;
+/// Fills the item from what the declaration refers to, names as its type or holds. Nothing: the
+/// declaration has no content that could be found.
+Answer TakeContent(CKTWalk& walk, const CKTXMLElement* declaration, const DeclarationTraits& traits,
+                   const WrittenDeclaration& written, OpenItem& open) {
+    if (written.ref != nullptr) {
+        return TakeReference(walk, declaration, *written.ref, traits, open);
     }
-    if (!m_bSubstitutionHeadsKnown) {
-        m_bSubstitutionHeadsKnown = true;
-        for (const CKTXMLElement* member : m_pDocument->getList(SUBSTITUTION_MEMBERS)) {
-            const std::string& head = *AttributeValue(member, "substitutionGroup");
-            if (const std::string* uri = FindTypeNamespace(member, head)) {
-                m_SubstitutionHeads.emplace(CKTXMLNode::getNonQualifiedName(head), *uri);
-            }
-        }
+    if (!traits.IsAttribute() && elementHasSubGroup(walk.Names(), *open.item)) {
+        ReportSubstitutionGroup();
     }
-    return !m_SubstitutionHeads.empty() &&
-           m_SubstitutionHeads.contains({item->m_sXMLName, item->m_sNamespace});
+    return written.type != nullptr ? TakeNamedType(walk, declaration, *written.type, traits, open)
+                                   : walk.WalkChildren(declaration, open);
+}
+
+Answer TakeDeclaration(CKTWalk& walk, const CKTXMLElement* declaration,
+                       const DeclarationTraits& traits, const WrittenDeclaration& written,
+                       OpenItem& around) {
+    if (around.isReference &&
+        GeneratorKindOf(around.item->m_pSchemaElement->getName()) == traits.kind) {
+        around.isReference = false;
+        FillFromDeclaration(walk.Names(), declaration, written, *around.item);
+        return TakeContent(walk, declaration, traits, written, around);
+    }
+    OpenItem own(MakeDeclaredItem(walk.Records(), traits, written, around.item));
+    if (own.item == nullptr) {
+        return Answer::Nothing;
+    }
+    FillFromDeclaration(walk.Names(), declaration, written, *own.item);
+    const Answer content = TakeContent(walk, declaration, traits, written, own);
+    if (content == Answer::Nothing) {
+        walk.Records().Remove(*own.item);
+    }
+    return content == Answer::ItemGone ? Answer::Nothing : content;
+}
+
+}  // namespace
+
+Answer TakeElement(CKTWalk& walk, CKTXMLElement* element, OpenItem& around) {
+    const WrittenDeclaration written(element);
+    if (IsNever(written.maxOccurs)) {
+        return around.item == nullptr ? Answer::Nothing : Answer::Made;
+    }
+    return TakeDeclaration(walk, element, kElement, written, around);
+}
+
+Answer TakeAttribute(CKTWalk& walk, CKTXMLElement* attribute, OpenItem& around) {
+    const WrittenDeclaration written(attribute);
+    if (written.use != nullptr && *written.use == "prohibited") {
+        return Answer::Nothing;
+    }
+    return TakeDeclaration(walk, attribute, kAttribute, written, around);
 }

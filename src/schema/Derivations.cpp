@@ -1,33 +1,29 @@
-// Derivation by restriction and extension.
+// Derivation by restriction and extension. The base is walked into the same item, so that what the
+// derivation itself says comes after it; a simple value is instead followed down to its built-in
+// type, and the facets are applied on the way back.
 
-#include <algorithm>
-#include <iostream>
+#include <vector>
 
 #include "schema/ActiveGuard.h"
-#include "schema/KTCOBOLGenerator.h"
-#include "support/Console.h"
+#include "schema/Complaints.h"
+#include "schema/Handlers.h"
+#include "schema/SchemaVocabulary.h"
 
 namespace {
 
-/// What a derivation stands in; Other for one that stands in nothing.
-GeneratorKind KindAbove(const CKTXMLElement* derivation) {
-    return derivation->isParent() ? GeneratorKindOf(derivation->getParent()->getName())
-                                  : GeneratorKind::Other;
+GeneratorKind KindOf(const CKTXMLElement* e) {
+    return GeneratorKindOf(e->getName());
 }
 
-void SetContentKind(CKTCOBOLRecordItem* item, const CKTXMLElement* derivation) {
-    const GeneratorKind parent = KindAbove(derivation);
-    if (parent == GeneratorKind::SimpleContent) {
-        item->m_nContentKind = CKTCOBOLRecordItem::SIMPLE_CONTENT;
-    } else if (parent == GeneratorKind::ComplexContent) {
-        item->m_nContentKind = CKTCOBOLRecordItem::COMPLEX_CONTENT;
-    }
+/// What a derivation stands in; Other for one that stands in nothing.
+GeneratorKind KindAbove(const CKTXMLElement* derivation) {
+    return derivation->isParent() ? KindOf(derivation->getParent()) : GeneratorKind::Other;
 }
 
 CKTXMLElement* FindChild(const CKTXMLElement* e, GeneratorKind kind) {
     for (CKTXMLElement* child = e->getFirstChildElem(); child != nullptr;
          child = child->getNextSibling()) {
-        if (GeneratorKindOf(child->getName()) == kind) {
+        if (KindOf(child) == kind) {
             return child;
         }
     }
@@ -37,7 +33,7 @@ CKTXMLElement* FindChild(const CKTXMLElement* e, GeneratorKind kind) {
 /// The restriction or extension that says what a type's simple value is; null when the value is a
 /// list, a union or elements.
 const CKTXMLElement* FindValueDerivation(const CKTXMLElement* type) {
-    const CKTXMLElement* holder = GeneratorKindOf(type->getName()) == GeneratorKind::ComplexType
+    const CKTXMLElement* holder = KindOf(type) == GeneratorKind::ComplexType
                                       ? FindChild(type, GeneratorKind::SimpleContent)
                                       : type;
     if (holder == nullptr) {
@@ -47,183 +43,177 @@ const CKTXMLElement* FindValueDerivation(const CKTXMLElement* type) {
     return restriction != nullptr ? restriction : FindChild(holder, GeneratorKind::Extension);
 }
 
-void ReportMissingBase(const std::string& base) {
-    WriteLine(std::cerr, {"Error : Cannot find referenced element ", base,
-                          ".  Element will not be converted to COBOL record item."});
-}
-
-}  // namespace
-
 /// While it lives, a derivation that is simple content is the innermost one.
-class CKTCOBOLGenerator::CKTSimpleContent {
+class CKTSimpleContent {
 public:
-    CKTSimpleContent(CKTCOBOLGenerator& generator, const CKTXMLElement* derivation)
-        : m_Generator(generator), m_pOuterBase(generator.m_pSimpleBase) {
-        if (KindAbove(derivation) == GeneratorKind::SimpleContent) {
-            generator.m_pSimpleBase = AttributeValue(derivation, "base");
+    CKTSimpleContent(CKTWalk& walk, const CKTXMLElement* derivation, OpenItem& open)
+        : m_Base(walk.SimpleBase()), m_pOuterBase(m_Base) {
+        const GeneratorKind above = KindAbove(derivation);
+        if (above == GeneratorKind::SimpleContent) {
+            m_Base = AttributeValue(derivation, "base");
+            open.isSimpleContent = true;
+        } else if (above == GeneratorKind::ComplexContent) {
+            open.isSimpleContent = false;
         }
     }
-    ~CKTSimpleContent() { m_Generator.m_pSimpleBase = m_pOuterBase; }
+    ~CKTSimpleContent() { m_Base = m_pOuterBase; }
     CKTSimpleContent(const CKTSimpleContent&) = delete;
     CKTSimpleContent& operator=(const CKTSimpleContent&) = delete;
 
 private:
-    CKTCOBOLGenerator& m_Generator;
+    const std::string*& m_Base;
     const std::string* m_pOuterBase;
 };
 
-CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementRestriction(const CKTXMLElement* restriction,
-                                                                 unsigned level, unsigned indent,
-                                                                 Item** current) {
-    Item* item = *current;
-    SetContentKind(item, restriction);
-    const CKTSimpleContent simpleContent(*this, restriction);
-    const std::string* base = AttributeValue(restriction, "base");
-    if (base == nullptr) {
-        RestrictOwnContent(restriction, level, indent, current);
-        return *current;
-    }
-    const NameMeaning& meaning = MeaningOfBase(restriction, *base);
-    if (meaning.builtIn != nullptr) {
-        TakeBuiltIn(item, *meaning.builtIn);
-        ProcessElementFacets(item, restriction);
-    } else if (IsListType(restriction, *base)) {
-        NoteList(item, m_pSimpleBase);
-        WalkChildren(restriction, level, indent, current);
-    } else if (IsOpenType(restriction, *base)) {
-        WalkChildren(restriction, level, indent, current);
-    } else if (meaning.declaration != nullptr) {
-        RestrictNamedType(restriction, meaning.declaration, *base, level, indent, current);
-    } else {
-        ReportMissingBase(*base);
-        WalkChildren(restriction, level, indent, current);
-    }
-    return *current;
-}
+/// The way from a type to the simple value at the end of its base chain, one step at a time.
+class CKTValueChain {
+public:
+    CKTValueChain(CKTWalk& walk, OpenItem& open) : m_Walk(walk), m_Open(open) {}
 
-void CKTCOBOLGenerator::RestrictNamedType(const CKTXMLElement* restriction, CKTXMLElement* base,
-                                          const std::string& name, unsigned level, unsigned indent,
-                                          Item** current) {
-    Item* item = *current;
-    const CKTXMLElement* first = restriction->getFirstChildElem();
-    const bool complexBase = getElementType(base) == GeneratorKind::ComplexType;
-    const bool ownContent =
-        first != nullptr && (complexBase || getElementType(first) == GeneratorKind::SimpleType);
-    if (ownContent) {
-        if (complexBase && item->m_nContentKind == Item::SIMPLE_CONTENT) {
-            TakeBaseValue(item, base);
+    /// Gives the item the built-in type at the end of the chain of `type` and the facets on the
+    /// way, without the attributes and condition names of the base. A list at its end is noted.
+    void TakeValue(const CKTXMLElement* type) {
+        m_pSimpleBase = m_Walk.SimpleBase();
+        while (type != nullptr && !m_bConverted) {
+            const CKTXMLElement* step = FindValueDerivation(type);
+            if (step == nullptr) {
+                if (FindChild(type, GeneratorKind::List) != nullptr) {
+                    m_Open.NoteList(m_pSimpleBase);
+                }
+                return;
+            }
+            if (!m_Walk.CountVisit(m_Steps.size() + 1)) {
+                return;
+            }
+            m_Steps.push_back(step);
+            type = TypeBelow(step);
         }
-        RestrictOwnContent(restriction, level, indent, current);
-        return;
+        for (auto step = m_Steps.rbegin(); m_bConverted && step != m_Steps.rend(); ++step) {
+            if (KindOf(*step) == GeneratorKind::Restriction) {
+                ApplyValueFacets(m_Open, **step);
+            }
+        }
     }
-    WalkBaseType(base, name, level, indent, current);
-    if (*current == item) {
-        ProcessElementFacets(item, restriction);
+
+private:
+    /// The type that `step` derives from; null for one of XML Schema or none.
+    const CKTXMLElement* TypeBelow(const CKTXMLElement* step) {
+        const std::string* base = AttributeValue(step, "base");
+        if (KindAbove(step) == GeneratorKind::SimpleContent) {
+            m_pSimpleBase = base;
+        }
+        const CKTXMLElement* anonymous = KindOf(step) == GeneratorKind::Restriction
+                                             ? FindChild(step, GeneratorKind::SimpleType)
+                                             : nullptr;
+        if (anonymous != nullptr || base == nullptr) {
+            return anonymous;
+        }
+        const NameMeaning& meaning = m_Walk.Names().MeaningOfBase(step, *base);
+        m_bConverted = meaning.builtIn != nullptr;
+        if (m_bConverted) {
+            TakeBuiltIn(*m_Open.item, *meaning.builtIn);
+        } else if (m_Walk.Names().IsListType(step, *base)) {
+            m_Open.NoteList(m_pSimpleBase);
+        }
+        return meaning.declaration;
     }
+
+    CKTWalk& m_Walk;
+    OpenItem& m_Open;
+    std::vector<const CKTXMLElement*> m_Steps;
+    const std::string* m_pSimpleBase = nullptr;
+    bool m_bConverted = false;
+};
+
+Answer WalkBaseType(CKTWalk& walk, CKTXMLElement* type, const std::string& name, OpenItem& open) {
+    const CKTActiveGuard active(walk.TypesWalked(), CKTWalk::ActiveType(open.item, type));
+    if (!active.IsFirst()) {
+        ReportRecursion(name);
+        return Answer::Made;
+    }
+    return WithoutNothing(walk.Walk(type, open));
 }
 
 /// Takes what a restriction holds itself: an anonymous type that its facets narrow comes first,
 /// then the facets, then the rest.
-void CKTCOBOLGenerator::RestrictOwnContent(const CKTXMLElement* restriction, unsigned level,
-                                           unsigned indent, Item** current) {
-    Item* item = *current;
+Answer RestrictOwnContent(CKTWalk& walk, const CKTXMLElement* restriction, OpenItem& open) {
     CKTXMLElement* anonymous = FindChild(restriction, GeneratorKind::SimpleType);
-    if (anonymous != nullptr) {
-        getCOBOLFromSchema(anonymous, level, indent, current);
-    }
-    if (*current == item) {
-        ProcessElementFacets(item, restriction);
+    Answer answer = anonymous == nullptr ? Answer::Made : walk.Walk(anonymous, open);
+    if (answer != Answer::ItemGone) {
+        walk.TakeFacets(open, *restriction);
     }
     for (CKTXMLElement* child = restriction->getFirstChildElem();
-         child != nullptr && *current == item && m_Excess == Excess::None;
+         child != nullptr && answer != Answer::ItemGone && !walk.Records().IsGivenUp();
          child = child->getNextSibling()) {
         if (child != anonymous) {
-            getCOBOLFromSchema(child, level, indent, current);
+            answer = walk.Walk(child, open);
         }
     }
+    return WithoutNothing(answer);
 }
 
-CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementExtension(const CKTXMLElement* extension,
-                                                               unsigned level, unsigned indent,
-                                                               Item** current) {
-    Item* item = *current;
-    SetContentKind(item, extension);
-    const CKTSimpleContent simpleContent(*this, extension);
+Answer RestrictNamedType(CKTWalk& walk, const CKTXMLElement* restriction, CKTXMLElement* base,
+                         const std::string& name, OpenItem& open) {
+    const CKTXMLElement* first = restriction->getFirstChildElem();
+    const bool complexBase = KindOf(base) == GeneratorKind::ComplexType;
+    if (first != nullptr && (complexBase || KindOf(first) == GeneratorKind::SimpleType)) {
+        if (complexBase && open.isSimpleContent) {
+            CKTValueChain(walk, open).TakeValue(base);
+        }
+        return RestrictOwnContent(walk, restriction, open);
+    }
+    const Answer answer = WalkBaseType(walk, base, name, open);
+    if (answer != Answer::ItemGone) {
+        walk.TakeFacets(open, *restriction);
+    }
+    return answer;
+}
+
+}  // namespace
+
+Answer TakeRestriction(CKTWalk& walk, const CKTXMLElement* restriction, OpenItem& open) {
+    const CKTSimpleContent simpleContent(walk, restriction, open);
+    const std::string* base = AttributeValue(restriction, "base");
+    if (base == nullptr) {
+        return RestrictOwnContent(walk, restriction, open);
+    }
+    CKTNameResolver& names = walk.Names();
+    const NameMeaning& meaning = names.MeaningOfBase(restriction, *base);
+    if (meaning.builtIn != nullptr) {
+        TakeBuiltIn(*open.item, *meaning.builtIn);
+        walk.TakeFacets(open, *restriction);
+        return Answer::Made;
+    }
+    if (names.IsListType(restriction, *base)) {
+        open.NoteList(walk.SimpleBase());
+    } else if (!names.IsOpenType(restriction, *base)) {
+        if (meaning.declaration != nullptr) {
+            return RestrictNamedType(walk, restriction, meaning.declaration, *base, open);
+        }
+        ReportMissingReference(*base);
+    }
+    return walk.WalkChildren(restriction, open);
+}
+
+Answer TakeExtension(CKTWalk& walk, const CKTXMLElement* extension, OpenItem& open) {
+    const CKTSimpleContent simpleContent(walk, extension, open);
     const std::string* base = AttributeValue(extension, "base");
     if (base == nullptr) {
-        return item;
+        return Answer::Made;
     }
-    const NameMeaning& meaning = MeaningOfBase(extension, *base);
+    CKTNameResolver& names = walk.Names();
+    const NameMeaning& meaning = names.MeaningOfBase(extension, *base);
+    Answer answer = Answer::Made;
     if (meaning.builtIn != nullptr) {
-        TakeBuiltIn(item, *meaning.builtIn);
-    } else if (IsListType(extension, *base)) {
-        NoteList(item, m_pSimpleBase);
-    } else if (!IsOpenType(extension, *base)) {
+        TakeBuiltIn(*open.item, *meaning.builtIn);
+    } else if (names.IsListType(extension, *base)) {
+        open.NoteList(walk.SimpleBase());
+    } else if (!names.IsOpenType(extension, *base)) {
         if (meaning.declaration == nullptr) {
-            ReportMissingBase(*base);
-            return nullptr;
+            ReportMissingReference(*base);
+            return Answer::Nothing;
         }
-        WalkBaseType(meaning.declaration, *base, level, indent, current);
+        answer = WalkBaseType(walk, meaning.declaration, *base, open);
     }
-    if (*current == item) {
-        WalkChildren(extension, level, indent, current);
-    }
-    return *current;
-}
-
-void CKTCOBOLGenerator::WalkBaseType(CKTXMLElement* type, const std::string& name, unsigned level,
-                                     unsigned indent, Item** current) {
-    const CKTActiveGuard active(m_ActiveTypes, ActiveType(*current, type));
-    if (active.IsFirst()) {
-        getCOBOLFromSchema(type, level, indent, current);
-    } else {
-        WriteLine(std::cerr,
-                  {"Error : Cannot convert recursive reference of ", name, " to COBOL record"});
-    }
-}
-
-/// Gives `item` the built-in type at the end of the base chain of `type` and the facets on the way,
-/// without the attributes and condition names of the base. A list at its end is noted.
-void CKTCOBOLGenerator::TakeBaseValue(Item* item, CKTXMLElement* type) {
-    std::vector<const CKTXMLElement*> steps;
-    const std::string* simpleBase = m_pSimpleBase;
-    bool converted = false;
-    while (type != nullptr && !converted) {
-        const CKTXMLElement* step = FindValueDerivation(type);
-        if (step == nullptr) {
-            if (FindChild(type, GeneratorKind::List) != nullptr) {
-                NoteList(item, simpleBase);
-            }
-            return;
-        }
-        if (m_nNesting + steps.size() >= kMaxNesting ||
-            ++m_nElementsVisited > kMaxElementsVisited) {
-            m_Excess = Excess::TooComplex;
-            return;
-        }
-        steps.push_back(step);
-        const std::string* base = AttributeValue(step, "base");
-        if (KindAbove(step) == GeneratorKind::SimpleContent) {
-            simpleBase = base;
-        }
-        type = getElementType(step) == GeneratorKind::Restriction
-                   ? FindChild(step, GeneratorKind::SimpleType)
-                   : nullptr;
-        if (type != nullptr || base == nullptr) {
-            continue;
-        }
-        const NameMeaning& meaning = MeaningOfBase(step, *base);
-        converted = meaning.builtIn != nullptr;
-        if (converted) {
-            TakeBuiltIn(item, *meaning.builtIn);
-        } else if (IsListType(step, *base)) {
-            NoteList(item, simpleBase);
-        }
-        type = meaning.declaration;
-    }
-    for (auto step = steps.rbegin(); converted && step != steps.rend(); ++step) {
-        if (getElementType(*step) == GeneratorKind::Restriction) {
-            ApplyFacets(item, *step, false);
-        }
-    }
+    return answer == Answer::ItemGone ? answer : walk.WalkChildren(extension, open);
 }

@@ -1,89 +1,59 @@
-// Facets: lengths and digits become the picture, enumerations become condition names.
+// Facets: lengths and digits become the picture, enumerations become condition names. A condition
+// name is numbered by the children that a search for its value passes, so the search is kept up by
+// count, and done by look-up only until the values of a restriction are known to differ.
+
+#include "schema/Facets.h"
 
 #include <algorithm>
 #include <climits>
-#include <iostream>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <unordered_map>
+#include <vector>
 
-#include "schema/KTCOBOLGenerator.h"
-#include "support/Console.h"
+#include "schema/Complaints.h"
+#include "schema/RecordTree.h"
+#include "schema/SchemaVocabulary.h"
 #include "support/Text.h"
 
 namespace {
 
-std::string_view ShownName(const CKTCOBOLRecordItem* item) {
-    return item->m_sXMLName.empty() ? item->m_sDataName : item->m_sXMLName;
+std::string_view ShownName(const CKTCOBOLRecordItem& item) {
+    return item.m_sXMLName.empty() ? item.m_sDataName : item.m_sXMLName;
 }
 
-void ReportUnsupportedFacet(const CKTCOBOLRecordItem* item, std::string_view facet) {
-    WriteLine(std::cerr,
-              {"Warning : This version of DORVEX does not support ", facet, " ", ShownName(item)});
-}
-
-std::string_view WhiteSpaceEffect(std::string_view value) {
-    if (value == "preserve") {
-        return "No normalization is done, the value is not changed (this is the behavior required "
-               "by "
-               " [XML 1.0 (Second Edition)] for element content)";
-    }
-    if (value == "replace") {
-        return "All occurrences of #x9 (tab), #xA (line feed) and #xD (carriage return) are "
-               "replaced "
-               "with #x20 (space)";
-    }
-    if (value == "collapse") {
-        return "After the processing implied by replace, contiguous sequences of #x20's are "
-               "collapsed to a  single #x20, and leading and trailing #x20's are removed";
-    }
-    return {};
-}
-
-/// The value of this facet is looked up on the restriction, where a valid schema has none.
-void ReportWhiteSpace(const CKTCOBOLRecordItem* item, const CKTXMLElement* restriction) {
-    if (const std::string* value = AttributeValue(restriction, "value")) {
-        WriteLine(std::cerr, {"Warning : Whitespace facet encountered Warning : Whitespace facet "
-                              "encountered for element ",
-                              ShownName(item), " - ", WhiteSpaceEffect(*value)});
-    }
-}
-
-/// The item that length and digits act on: the one that holds the picture.
-CKTCOBOLRecordItem* ValueHolder(CKTCOBOLRecordItem* item) {
-    return item->HasValue() ? item : item->m_pValueItem;
-}
-
-void ApplySize(CKTCOBOLRecordItem* holder, FacetKind kind, const std::string& value) {
-    const bool enough = kind == FacetKind::MinLength && !holder->m_sPicLength.empty() &&
-                        ReadInteger(holder->m_sPicLength) >= ReadInteger(value);
+void ApplySize(CKTCOBOLRecordItem& holder, FacetKind kind, const std::string& value) {
+    const bool enough = kind == FacetKind::MinLength && !holder.m_sPicLength.empty() &&
+                        ReadInteger(holder.m_sPicLength) >= ReadInteger(value);
     if (!enough) {
-        holder->m_sPicLength.Share(value);
+        holder.m_sPicLength.Share(value);
     }
 }
-
-}  // namespace
 
 /// Adds condition names to one item; knows the values that are there, and how many children the
 /// search for a value has passed. Values that are known to differ are not searched for.
-class CKTCOBOLGenerator::CKTConditionList {
+class CKTConditionList {
 public:
-    CKTConditionList(CKTCOBOLGenerator& generator, Item* item, const CKTXMLElement* restriction)
-        : m_Generator(generator), m_pItem(item), m_pRestriction(restriction) {
-        if (getElementType(restriction) == GeneratorKind::Restriction) {
-            std::erase_if(item->m_Children, [](const auto& child) { return child->IsCondition(); });
-            m_bMustSearch = !generator.m_DistinctEnumerations.contains(restriction);
+    CKTConditionList(OpenItem& open, const CKTXMLElement& restriction, CKTRecordTree& records,
+                     DistinctEnumerations& distinct)
+        : m_Item(*open.item), m_pRestriction(&restriction), m_Records(records), m_Known(distinct) {
+        if (GeneratorKindOf(restriction.getName()) == GeneratorKind::Restriction) {
+            std::erase_if(m_Item.m_Children,
+                          [](const auto& child) { return child->IsCondition(); });
+            m_bMustSearch = !m_Known.contains(m_pRestriction);
             return;
         }
         m_bDistinct = false;
-        for (std::size_t place = 0; place < item->m_Children.size(); ++place) {
-            if (item->m_Children[place]->IsCondition()) {
-                m_Places.emplace(item->m_Children[place]->m_sValue, place);
+        for (std::size_t place = 0; place < m_Item.m_Children.size(); ++place) {
+            if (m_Item.m_Children[place]->IsCondition()) {
+                m_Places.emplace(m_Item.m_Children[place]->m_sValue, place);
             }
         }
     }
     ~CKTConditionList() {
         if (m_bMustSearch && m_bDistinct) {
-            m_Generator.m_DistinctEnumerations.insert(m_pRestriction);
+            m_Known.insert(m_pRestriction);
         }
     }
     CKTConditionList(const CKTConditionList&) = delete;
@@ -91,7 +61,7 @@ public:
 
     /// A value that is there already only moves the count on: it is not set back by a duplicate.
     void Add(const std::string& value) {
-        std::size_t place = m_pItem->m_Children.size();
+        const std::size_t place = m_Item.m_Children.size();
         if (m_bMustSearch) {
             const auto [found, isNew] = m_Places.emplace(value, place);
             if (!isNew) {
@@ -100,7 +70,7 @@ public:
                 return;
             }
         }
-        if (Item* condition = m_Generator.MakeConditionItem(m_pItem)) {
+        if (CKTCOBOLRecordItem* condition = m_Records.MakeConditionItem(m_Item)) {
             ShareName(condition->m_sDataName, m_nPassed + place);
             condition->m_sValue.Share(value);
         }
@@ -125,92 +95,94 @@ private:
         }
     }
 
-    CKTCOBOLGenerator& m_Generator;
-    Item* m_pItem;
+    CKTCOBOLRecordItem& m_Item;
     const CKTXMLElement* m_pRestriction;
+    CKTRecordTree& m_Records;
+    DistinctEnumerations& m_Known;
     bool m_bMustSearch = true;
     bool m_bDistinct = true;
     std::unordered_map<std::string_view, std::size_t> m_Places;
     std::size_t m_nPassed = 0;
 };
 
-void CKTCOBOLGenerator::ProcessElementFacets(CKTCOBOLRecordItem* item,
-                                             const CKTXMLElement* restriction) {
-    ApplyFacets(item, restriction, true);
-}
-
-/// As ProcessElementFacets; without conditions, enumerations are passed over.
-void CKTCOBOLGenerator::ApplyFacets(Item* item, const CKTXMLElement* restriction,
-                                    bool withConditions) {
-    if (item == nullptr) {
-        return;
-    }
-    restriction = restriction != nullptr ? restriction : item->m_pSourceElement;
-    if (restriction == nullptr) {
-        return;
-    }
-    std::optional<CKTConditionList> conditions;
-    for (const CKTXMLElement* facet = restriction->getFirstChildElem(); facet != nullptr;
-         facet = facet->getNextSibling()) {
-        const FacetKind kind = getFacetType(facet);
-        const std::string* value = AttributeValue(facet, "value");
-        if (kind != FacetKind::Enumeration) {
-            ApplyFacet(item, restriction, facet, kind, value);
-            continue;
-        }
-        if (!withConditions || value == nullptr) {
-            continue;
-        }
-        if (!conditions) {
-            conditions.emplace(*this, item, restriction);
-        }
-        conditions->Add(*value);
-        if (facet->getNextSibling() == nullptr && item->HasValue()) {
-            MoveValue(item, false);
-        }
-    }
-}
-
-/// Applies one facet other than an enumeration; `value` is null when the facet has none.
-void CKTCOBOLGenerator::ApplyFacet(Item* item, const CKTXMLElement* restriction,
-                                   const CKTXMLElement* facet, FacetKind kind,
-                                   const std::string* value) {
-    Item* holder = value == nullptr ? nullptr : ValueHolder(item);
+/// Applies a facet that changes the picture in `holder`.
+void ApplyToPicture(CKTCOBOLRecordItem& holder, FacetKind kind, const std::string& value) {
     switch (kind) {
         case FacetKind::Length:
         case FacetKind::MinLength:
         case FacetKind::MaxLength:
-            if (holder != nullptr) {
-                ApplySize(holder, kind, *value);
-            }
+            ApplySize(holder, kind, value);
             break;
         case FacetKind::TotalDigits:
-            if (holder != nullptr) {
-                holder->m_nDigits =
-                    static_cast<int>(std::clamp<long long>(ReadInteger(*value), INT_MIN, INT_MAX));
-            }
+            holder.m_nDigits =
+                static_cast<int>(std::clamp<long long>(ReadInteger(value), INT_MIN, INT_MAX));
             break;
         case FacetKind::FractionDigits:
-            if (holder != nullptr) {
-                holder->m_sFractionDigits.Share(*value);
-            }
+            holder.m_sFractionDigits.Share(value);
             break;
+        default:
+            break;
+    }
+}
+
+/// Applies one facet other than an enumeration. The value of white space is looked up on the
+/// restriction, where a valid schema has none.
+void ApplyFacet(const OpenItem& open, const CKTXMLElement& restriction, const CKTXMLElement& facet,
+                FacetKind kind) {
+    switch (kind) {
         case FacetKind::Pattern:
-            ReportUnsupportedFacet(item, "the <pattern> element facet for element");
+            ReportPattern(ShownName(*open.item));
             break;
         case FacetKind::WhiteSpace:
-            ReportWhiteSpace(item, restriction);
+            if (const std::string* value = AttributeValue(&restriction, "value")) {
+                ReportWhiteSpace(*value, ShownName(*open.item));
+            }
             break;
         case FacetKind::MaxInclusive:
         case FacetKind::MaxExclusive:
         case FacetKind::MinInclusive:
         case FacetKind::MinExclusive:
-            ReportUnsupportedFacet(
-                item, "the " + std::string(CKTXMLNode::getNonQualifiedName(facet->getName())) +
-                          " facet for the element");
+            ReportRange(CKTXMLNode::getNonQualifiedName(facet.getName()), ShownName(*open.item));
             break;
-        case FacetKind::Enumeration:
-        case FacetKind::None:
+        default:
+            const std::string* value = AttributeValue(&facet, "value");
+            CKTCOBOLRecordItem* holder = value == nullptr ? nullptr : open.ValueHolder();
+            if (holder != nullptr) {
+                ApplyToPicture(*holder, kind, *value);
+            }
             break;
+    }
+}
+
+}  // namespace
+
+void ApplyFacets(OpenItem& open, const CKTXMLElement& restriction, CKTRecordTree& records,
+                 DistinctEnumerations& distinct) {
+    std::optional<CKTConditionList> conditions;
+    for (const CKTXMLElement* facet = restriction.getFirstChildElem(); facet != nullptr;
+         facet = facet->getNextSibling()) {
+        const FacetKind kind = FacetKindOf(facet->getName());
+        if (kind != FacetKind::Enumeration) {
+            ApplyFacet(open, restriction, *facet, kind);
+            continue;
+        }
+        const std::string* value = AttributeValue(facet, "value");
+        if (value == nullptr) {
+            continue;
+        }
+        if (!conditions) {
+            conditions.emplace(open, restriction, records, distinct);
+        }
+        conditions->Add(*value);
+        if (facet->getNextSibling() == nullptr && open.item->HasValue()) {
+            records.MoveValue(open, false);
+        }
+    }
+}
+
+void ApplyValueFacets(OpenItem& open, const CKTXMLElement& restriction) {
+    for (const CKTXMLElement* facet = restriction.getFirstChildElem(); facet != nullptr;
+         facet = facet->getNextSibling()) {
+        ApplyFacet(open, restriction, *facet, FacetKindOf(facet->getName()));
     }
 }

@@ -1,23 +1,27 @@
+// The facade: the output file, the head elements one after the other, and how each of them ended.
+
 #include "schema/KTCOBOLGenerator.h"
 
-#include <algorithm>
 #include <iostream>
+#include <utility>
 
+#include "schema/Complaints.h"
 #include "schema/GeneratorState.h"
+#include "schema/HeadElements.h"
 #include "support/Console.h"
 #include "support/Files.h"
 
-/// Counts how deeply constructs are nested at the moment.
-class CKTCOBOLGenerator::CKTNestingGuard {
-public:
-    explicit CKTNestingGuard(unsigned& nesting) : m_nNesting(nesting) { ++m_nNesting; }
-    ~CKTNestingGuard() { --m_nNesting; }
-    CKTNestingGuard(const CKTNestingGuard&) = delete;
-    CKTNestingGuard& operator=(const CKTNestingGuard&) = delete;
+namespace {
 
-private:
-    unsigned& m_nNesting;
-};
+void ReportExcess(CKTRecordTree::Excess excess, std::string_view record) {
+    if (excess == CKTRecordTree::Excess::TooManyItems) {
+        ReportTooManyItems(record);
+    } else {
+        ReportTooComplex(record);
+    }
+}
+
+}  // namespace
 
 bool CKTCOBOLGenerator::GenerateFile(const std::string& outputName, const std::string& writerText,
                                      bool writerFlag1, bool writerFlag2) {
@@ -27,17 +31,15 @@ bool CKTCOBOLGenerator::GenerateFile(const std::string& outputName, const std::s
     CKTOutputFile file(outputName);
     const bool toFile = file.IsOpen();
     if (m_pDocument == nullptr) {
-        WriteLine(std::cerr, {"Internal Error : Error initializing schema document\n"});
+        ReportMissingDocument();
     } else if (m_pDocument->getSchemaElement() == nullptr) {
-        WriteLine(std::cerr, {"Internal Error : Unable to locate schema element\n"});
+        ReportMissingSchema();
     } else {
         CKTXMLElement* schema = m_pDocument->getSchemaElement();
         GeneratorState().currentSchemaElement = schema;
-        m_sWriterText = writerText;
-        m_bWriterFlag1 = writerFlag1;
-        m_bWriterFlag2 = writerFlag2;
+        m_Writer = {writerText, writerFlag1, writerFlag2};
         CKTCOBOLRecordItem* current = nullptr;
-        getCOBOLFromSchema(schema, 1, 7, &current);
+        getCOBOLFromSchema(schema, kFirstLevel, kFirstIndent, &current);
         std::cerr << "\n";
     }
     // A record that went to a silenced console is lost, and nothing else says so.
@@ -50,57 +52,24 @@ bool CKTCOBOLGenerator::GenerateFile(const std::string& outputName, const std::s
 CKTCOBOLRecordItem* CKTCOBOLGenerator::getCOBOLFromSchema(CKTXMLElement* e, unsigned level,
                                                           unsigned indent,
                                                           CKTCOBOLRecordItem** current) {
-    if (e == nullptr || m_Excess != Excess::None) {
+    m_Walk.Records().PlaceFirstItem(level, indent);
+    if (e != nullptr && getElementType(e) == GeneratorKind::Schema) {
+        ConvertSchema(e);
         return nullptr;
     }
-    const CKTNestingGuard nesting(m_nNesting);
-    if (++m_nElementsVisited > kMaxElementsVisited || m_nNesting > kMaxNesting) {
-        m_Excess = Excess::TooComplex;
+    OpenItem open(*current);
+    CKTCOBOLRecordItem* parent = open.item == nullptr ? nullptr : open.item->m_pParent;
+    const Answer answer = m_Walk.Walk(e, open);
+    if (answer == Answer::ItemGone) {
+        *current = parent;
+    }
+    if (answer != Answer::Made) {
         return nullptr;
     }
-    const Item* before = *current;
-    Item* result = Dispatch(e, level, indent, current);
-    if (result == nullptr && *current == before && m_Excess == Excess::None) {
-        PruneEmptyItem(e, current);
-    }
-    return result;
+    return open.item == nullptr ? m_Walk.Records().Record() : open.item;
 }
 
-CKTCOBOLRecordItem* CKTCOBOLGenerator::Dispatch(CKTXMLElement* e, unsigned level, unsigned indent,
-                                                Item** current) {
-    switch (getElementType(e)) {
-        case GeneratorKind::Schema:
-            ConvertSchema(e, level, indent);
-            return nullptr;
-        case GeneratorKind::Element:
-            return ProcessElementElement(e, level, indent, current);
-        case GeneratorKind::Attribute:
-            return ProcessAttributeElement(e, level, indent, current);
-        case GeneratorKind::AttributeGroup:
-        case GeneratorKind::Group:
-        case GeneratorKind::Sequence:
-        case GeneratorKind::Choice:
-        case GeneratorKind::Union:
-        case GeneratorKind::List:
-        case GeneratorKind::All:
-        case GeneratorKind::Any:
-        case GeneratorKind::AnyAttribute:
-            return ProcessModelGroup(e, level, indent, current);
-        case GeneratorKind::Extension:
-            return ProcessElementExtension(e, level, indent, current);
-        case GeneratorKind::Restriction:
-            return ProcessElementRestriction(e, level, indent, current);
-        case GeneratorKind::SimpleType:
-        case GeneratorKind::ComplexType:
-        case GeneratorKind::SimpleContent:
-        case GeneratorKind::ComplexContent:
-            return ProcessTypeDefinition(e, level, indent, current);
-        default:
-            return *current;
-    }
-}
-
-void CKTCOBOLGenerator::ConvertSchema(CKTXMLElement* schema, unsigned level, unsigned indent) {
+void CKTCOBOLGenerator::ConvertSchema(CKTXMLElement* schema) {
     bool processChildren = false;
     if (!ProcessSchemaElement(schema, processChildren)) {
         return;
@@ -109,127 +78,51 @@ void CKTCOBOLGenerator::ConvertSchema(CKTXMLElement* schema, unsigned level, uns
     getSchemaHeadElement(heads);
     std::size_t written = 0;
     for (CKTXMLElement* head : heads) {
-        if (ConvertHead(head, level, indent)) {
+        if (ConvertHead(head)) {
             ++written;
             std::cout.put('\n');
         }
-        m_pRecord.reset();
+        m_Walk.Records().Begin();
     }
     std::cerr << "\n";
-    WriteLine(std::cerr, {"Successfully converted ", std::to_string(written), " of ",
-                          std::to_string(heads.size()), " schema head element(s)."});
+    ReportConverted(written, heads.size());
 }
 
-bool CKTCOBOLGenerator::ConvertHead(CKTXMLElement* head, unsigned level, unsigned indent) {
-    m_Excess = Excess::None;
-    m_nItemsMade = 0;
-    m_nElementsVisited = 0;
-    m_ListBases.clear();
+bool CKTCOBOLGenerator::ConvertHead(CKTXMLElement* head) {
     const int saidBefore = m_nErrorCount + m_nWarningCount;
-    Item* current = nullptr;
-    const unsigned outerNesting = std::exchange(m_nNesting, 0);
-    const Item* record = getCOBOLFromSchema(head, level, indent, &current);
-    m_nNesting = outerNesting;
+    const Answer answer = m_Walk.WalkHead(head);
     const std::string* name = AttributeValue(head, "name");
     const std::string_view shownName = name == nullptr ? std::string_view() : *name;
-    if (m_Excess == Excess::None) {
-        const bool written =
-            record != nullptr &&
-            Item::OutputCOBOLItem(m_pRecord.get(), m_sWriterText, m_bWriterFlag1, m_bWriterFlag2);
-        if (!written && m_nErrorCount + m_nWarningCount == saidBefore) {
-            CKTItemText dataName;
-            Item::setCOBOLDataName(dataName, shownName);
-            Item::ReportEmptyStructure(dataName);
-        }
-        return written;
+    if (answer == Answer::GivenUp) {
+        ReportExcess(m_Walk.Records().GivenUpFor(), shownName);
+        return false;
     }
-    WriteLine(std::cerr, {"Error : Record \"", shownName,
-                          m_Excess == Excess::TooManyItems
-                              ? "\" exceeds 1000000 data items.  Record will not be converted."
-                              : "\" is too complex to convert.  Record will not be converted."});
-    m_Excess = Excess::None;
-    return false;
+    const bool written = answer == Answer::Made && CKTCOBOLRecordItem::OutputCOBOLItem(
+                                                       m_Walk.Records().Record(), m_Writer.prefix,
+                                                       m_Writer.countIn, m_Writer.uniqueNames);
+    if (!written && m_nErrorCount + m_nWarningCount == saidBefore) {
+        CKTItemText dataName;
+        CKTCOBOLRecordItem::setCOBOLDataName(dataName, shownName);
+        CKTCOBOLRecordItem::ReportEmptyStructure(dataName);
+    }
+    return written;
 }
 
 bool CKTCOBOLGenerator::ProcessSchemaElement(const CKTXMLElement* schema, bool& processChildren) {
     const std::string* form = AttributeValue(schema, "attributeFormDefault");
     if (form != nullptr && *form == "true") {
-        WriteLine(std::cerr,
-                  {"Error : COBOL XML does not support namespace qualifiers for attributes"
-                   " in instance documents"});
+        ReportQualifiedAttributes();
         return false;
     }
     processChildren = true;
     return true;
 }
 
-CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessTypeDefinition(CKTXMLElement* e, unsigned level,
-                                                             unsigned indent, Item** current) {
-    Item* item = *current;
-    if (item == nullptr) {
+CKTXMLElement* CKTCOBOLGenerator::getSchemaHeadElement(std::vector<CKTXMLElement*>& heads) {
+    if (m_pDocument == nullptr || m_pDocument->getSchemaElement() == nullptr) {
         return nullptr;
     }
-    if (item->m_pSourceElement == nullptr) {
-        item->m_pSourceElement = e;
-    }
-    if (e->getFirstChildElem() == nullptr && e->isParent()) {
-        if (const std::string* name = AttributeValue(e->getParent(), "name")) {
-            WriteLine(std::cerr, {"Warning : Cannot convert unconstrained type \"", *name,
-                                  "\" to a valid COBOL data item. An XML Schema element requires a "
-                                  "type=\"...\" attribute for successful conversion."});
-            return nullptr;
-        }
-    }
-    const std::string* mixed = AttributeValue(e, "mixed");
-    if (mixed != nullptr && *mixed == "true" && !item->m_bHasMixedValue) {
-        item->m_bHasMixedValue = true;
-        if (Item* text = MakeGeneratedItem(item, item->m_sDataName, "-mixed-value")) {
-            text->m_sPicType = "X";
-            text->m_sPicLength = "80";
-        }
-    }
-    WalkChildren(e, level, indent, current);
-    if (*current != item) {
-        return *current;
-    }
-    const bool maySplit = !item->m_bIsAttribute && (item->HasValue() || item->m_bIsList) &&
-                          (mixed == nullptr || mixed->empty() || *mixed == "false");
-    if (maySplit && std::any_of(item->m_Children.begin(), item->m_Children.end(),
-                                [](const auto& child) { return child->m_nLevel < 50; })) {
-        if (item->m_bIsList) {
-            LeaveListOut(item);
-        } else {
-            MoveValue(item, true);
-        }
-    }
-    return item;
-}
-
-void CKTCOBOLGenerator::WalkChildren(const CKTXMLElement* e, unsigned level, unsigned indent,
-                                     Item** current) {
-    const Item* before = *current;
-    for (CKTXMLElement* child = e->getFirstChildElem(); child != nullptr && *current == before;
-         child = child->getNextSibling()) {
-        getCOBOLFromSchema(child, level, indent, current);
-        if (m_Excess != Excess::None) {
-            return;
-        }
-    }
-}
-
-void CKTCOBOLGenerator::PruneEmptyItem(const CKTXMLElement* e, Item** current) {
-    Item* item = *current;
-    if (item == nullptr) {
-        return;
-    }
-    for (const CKTXMLElement* up = e; up != item->m_pSourceElement; up = up->getParent()) {
-        if (up == nullptr || up->getNextSibling() != nullptr) {
-            return;
-        }
-    }
-    if (!item->m_Children.empty() || item->HasValue() || item->m_bIsAttribute) {
-        return;
-    }
-    *current = item->m_pParent;
-    RemoveItem(item);
+    const std::size_t earlier = heads.size();
+    AppendHeads(*m_pDocument, m_Walk.Names(), m_ChosenHeads, heads);
+    return heads.size() - earlier == 1 ? heads.back() : nullptr;
 }

@@ -26,7 +26,7 @@ enum DeclarationList {
     ATTRIBUTE_GROUPS = 6,
     SUBSTITUTION_MEMBERS = 7,
     REDEFINED = 8,
-    REDEFINED_ORIGINAL = 10,
+    REPLACED_BY_REDEFINITION = 10,
 };
 
 /// One schema, sorted into lists of its global declarations. Building it pulls in the schemas that

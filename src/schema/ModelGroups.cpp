@@ -1,12 +1,12 @@
-// Sequences, choices, groups and attribute groups.
-
-#include <iostream>
+// Sequences, choices, groups and attribute groups. A group that occurs more than once is an item of
+// its own; any other leaves its members to the item that it stands in.
 
 #include "schema/ActiveGuard.h"
+#include "schema/Complaints.h"
 #include "schema/GeneratorState.h"
-#include "schema/KTCOBOLGenerator.h"
+#include "schema/Handlers.h"
 #include "schema/Occurrence.h"
-#include "support/Console.h"
+#include "schema/SchemaVocabulary.h"
 
 namespace {
 
@@ -35,58 +35,9 @@ std::string NextGroupName(const CKTXMLElement* e) {
     return name;
 }
 
-}  // namespace
-
-CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessModelGroup(CKTXMLElement* e, unsigned level,
-                                                         unsigned indent, Item** current) {
-    switch (getElementType(e)) {
-        case GeneratorKind::Union:
-            return ProcessElementUnion(e, level, indent, *current);
-        case GeneratorKind::List:
-            NoteList(*current, m_pSimpleBase);
-            return *current;
-        case GeneratorKind::Any:
-        case GeneratorKind::AnyAttribute:
-            WriteLine(std::cerr,
-                      {"Warning : Unsupported element <any> or <anyAttribute> encountered. Element "
-                       "will not be converted into COBOL xd."});
-            return *current;
-        default:
-            return ProcessGroupMembers(e, level, indent, current);
-    }
-}
-
-CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessGroupMembers(const CKTXMLElement* e, unsigned level,
-                                                           unsigned indent, Item** current) {
-    const std::string* maximum = AttributeValue(e, "maxOccurs");
-    if (IsNever(maximum)) {
-        return *current;
-    }
-    const bool grouped = maximum != nullptr && IsNumberAboveOne(*maximum);
-    Item* item = grouped ? MakeGroupItem(e, *current) : *current;
-    if (item == nullptr) {
-        return nullptr;
-    }
-    Item* own = item;
-    Item** cursor = grouped ? &own : current;
-    const std::string* ref = AttributeValue(e, "ref");
-    bool converted = true;
-    if (ref != nullptr && AttributeValue(e, "name") == nullptr) {
-        converted = WalkGroupReference(e, *ref, level, indent, cursor);
-    } else {
-        WalkChildren(e, level, indent, cursor);
-    }
-    if (*cursor != item) {
-        return grouped ? nullptr : *current;
-    }
-    if (!converted && grouped) {
-        RemoveItem(item);
-    }
-    return converted ? item : nullptr;
-}
-
-CKTCOBOLRecordItem* CKTCOBOLGenerator::MakeGroupItem(const CKTXMLElement* e, Item* parent) {
-    Item* item = MakeGeneratedItem(parent, NextGroupName(e), {});
+CKTCOBOLRecordItem* MakeGroupItem(CKTRecordTree& records, const CKTXMLElement* e,
+                                  CKTCOBOLRecordItem& parent) {
+    CKTCOBOLRecordItem* item = records.MakeGeneratedItem(parent, NextGroupName(e), {});
     if (item != nullptr) {
         item->m_pSchemaElement = e;
         item->m_pSourceElement = e;
@@ -98,22 +49,47 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::MakeGroupItem(const CKTXMLElement* e, Ite
     return item;
 }
 
-bool CKTCOBOLGenerator::WalkGroupReference(const CKTXMLElement* e, const std::string& ref,
-                                           unsigned level, unsigned indent, Item** cursor) {
-    const DeclarationList list =
-        getElementType(e) == GeneratorKind::Group ? GROUPS : ATTRIBUTE_GROUPS;
-    CKTXMLElement* target = FindReferenced(e, ref, list);
+Answer WalkGroupReference(CKTWalk& walk, const CKTXMLElement* e, const std::string& ref,
+                          OpenItem& open) {
+    const bool isGroup = GeneratorKindOf(e->getName()) == GeneratorKind::Group;
+    CKTXMLElement* target =
+        walk.Names().FindReferenced(e, ref, isGroup ? GROUPS : ATTRIBUTE_GROUPS);
     if (target == nullptr) {
-        WriteLine(std::cerr, {"Error : Cannot find referenced element ", ref,
-                              ".  Element will not be converted to COBOL record item."});
-        return false;
+        ReportMissingReference(ref);
+        return Answer::Nothing;
     }
-    const CKTActiveGuard active(m_ActiveGroups, target);
+    const CKTActiveGuard active(walk.GroupsWalked(), target);
     if (!active.IsFirst()) {
-        WriteLine(std::cerr,
-                  {"Error : Cannot convert recursive reference of ", ref, " to COBOL record"});
-        return false;
+        ReportRecursion(ref);
+        return Answer::Nothing;
     }
-    getCOBOLFromSchema(target, level, indent, cursor);
-    return true;
+    return WithoutNothing(walk.Walk(target, open));
+}
+
+Answer WalkMembers(CKTWalk& walk, const CKTXMLElement* group, OpenItem& open) {
+    const std::string* ref = AttributeValue(group, "ref");
+    return ref != nullptr && AttributeValue(group, "name") == nullptr
+               ? WalkGroupReference(walk, group, *ref, open)
+               : walk.WalkChildren(group, open);
+}
+
+}  // namespace
+
+Answer TakeModelGroup(CKTWalk& walk, CKTXMLElement* group, OpenItem& around) {
+    const std::string* maximum = AttributeValue(group, "maxOccurs");
+    if (IsNever(maximum)) {
+        return Answer::Made;
+    }
+    if (maximum == nullptr || !IsNumberAboveOne(*maximum)) {
+        return WalkMembers(walk, group, around);
+    }
+    OpenItem own(MakeGroupItem(walk.Records(), group, *around.item));
+    if (own.item == nullptr) {
+        return Answer::Nothing;
+    }
+    const Answer members = WalkMembers(walk, group, own);
+    if (members == Answer::Nothing) {
+        walk.Records().Remove(*own.item);
+    }
+    return members == Answer::ItemGone ? Answer::Nothing : members;
 }

@@ -1,60 +1,96 @@
 // Unions: each member type becomes an item of its own, and the later ones redefine the first.
 
-#include <iostream>
 #include <sstream>
+#include <string>
+#include <vector>
 
 #include "schema/ActiveGuard.h"
-#include "schema/KTCOBOLGenerator.h"
-#include "support/Console.h"
+#include "schema/Complaints.h"
+#include "schema/Handlers.h"
+#include "schema/SchemaVocabulary.h"
+
+namespace {
 
 /// A member type: named in the union's list, or anonymous inside it.
-struct CKTCOBOLGenerator::UnionMember {
+struct UnionMember {
     std::string name;
     CKTXMLElement* type = nullptr;
     const BuiltInForm* builtIn = nullptr;
 };
 
-namespace {
-
-std::vector<std::string> MemberTypeNames(const CKTXMLElement* unionElement) {
-    std::string names;
-    findAttrByName(unionElement, "memberTypes", &names);
-    std::istringstream list(names);
-    std::vector<std::string> result;
+std::vector<UnionMember> MembersOf(const CKTXMLElement* unionElement) {
+    std::vector<UnionMember> members;
+    const std::string* names = AttributeValue(unionElement, "memberTypes");
+    std::istringstream list(names == nullptr ? std::string() : *names);
     for (std::string name; list >> name;) {
-        result.push_back(name);
+        members.push_back({name, nullptr, nullptr});
     }
-    return result;
+    for (CKTXMLElement* e = unionElement->getFirstChildElem(); e != nullptr;
+         e = e->getNextSibling()) {
+        if (GeneratorKindOf(e->getName()) == GeneratorKind::SimpleType) {
+            members.push_back({{}, e, nullptr});
+        }
+    }
+    return members;
+}
+
+/// Says whether the type of the member exists, and finds the one that it names.
+bool FindMember(CKTNameResolver& names, const CKTXMLElement* unionElement, UnionMember& member) {
+    if (member.type != nullptr) {
+        return true;
+    }
+    member.builtIn = names.FindBuiltIn(unionElement, member.name);
+    if (member.builtIn == nullptr) {
+        member.type = names.FindType(unionElement, member.name);
+    }
+    return member.builtIn != nullptr || member.type != nullptr;
+}
+
+/// Gives the value of one member to `holder`. Says whether it still stands then.
+bool FillFromMember(CKTWalk& walk, const UnionMember& member, CKTCOBOLRecordItem& holder) {
+    if (member.builtIn != nullptr) {
+        TakeBuiltIn(holder, *member.builtIn);
+        return true;
+    }
+    const CKTActiveGuard active(walk.TypesWalked(), CKTWalk::ActiveType(&holder, member.type));
+    OpenItem open(&holder);
+    return walk.Walk(member.type, open) != Answer::ItemGone;
+}
+
+/// Makes the item of one member with its value: in the item itself for the first member, in a
+/// further item below it for the others. Returns null when no value came of it.
+CKTCOBOLRecordItem* MakeMemberItem(CKTWalk& walk, const UnionMember& member, std::size_t number,
+                                   CKTCOBOLRecordItem& parent) {
+    CKTRecordTree& records = walk.Records();
+    CKTCOBOLRecordItem* item = records.MakeGeneratedItem(parent, parent.m_sDataName,
+                                                         "-union-value-" + std::to_string(number));
+    if (item == nullptr || number == 0) {
+        return item != nullptr && FillFromMember(walk, member, *item) ? item : nullptr;
+    }
+    CKTCOBOLRecordItem* holder = records.MakeGeneratedItem(*item, item->m_sDataName, "-data");
+    if (holder != nullptr && FillFromMember(walk, member, *holder)) {
+        return item;
+    }
+    records.Remove(*item);
+    return nullptr;
 }
 
 }  // namespace
 
-CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementUnion(const CKTXMLElement* unionElement,
-                                                           unsigned level, unsigned indent,
-                                                           Item* current) {
-    std::vector<UnionMember> members;
-    for (std::string& name : MemberTypeNames(unionElement)) {
-        members.push_back({std::move(name), nullptr, nullptr});
-    }
-    for (CKTXMLElement* e = unionElement->getFirstChildElem(); e != nullptr;
-         e = e->getNextSibling()) {
-        if (getElementType(e) == GeneratorKind::SimpleType) {
-            members.push_back({{}, e, nullptr});
-        }
-    }
-    std::vector<const Item*> made;
-    Item* first = nullptr;
+Answer TakeUnion(CKTWalk& walk, const CKTXMLElement* unionElement, OpenItem& open) {
+    std::vector<UnionMember> members = MembersOf(unionElement);
+    std::vector<const CKTCOBOLRecordItem*> made;
+    CKTCOBOLRecordItem* first = nullptr;
     for (std::size_t number = 0; number < members.size(); ++number) {
         UnionMember& member = members[number];
-        if (member.type == nullptr && !FindUnionMember(unionElement, member)) {
-            WriteLine(std::cerr,
-                      {"Error : Unable to locate type ", member.name, " for <union> processing"});
+        if (!FindMember(walk.Names(), unionElement, member)) {
+            ReportMissingMember(member.name);
             for (; !made.empty(); made.pop_back()) {
-                RemoveItem(made.back());
+                walk.Records().Remove(*made.back());
             }
-            return nullptr;
+            return Answer::Nothing;
         }
-        Item* item = MakeUnionItem(member, number, level, indent, current);
+        CKTCOBOLRecordItem* item = MakeMemberItem(walk, member, number, *open.item);
         if (item == nullptr) {
             continue;
         }
@@ -64,45 +100,5 @@ CKTCOBOLRecordItem* CKTCOBOLGenerator::ProcessElementUnion(const CKTXMLElement* 
             first = item;
         }
     }
-    return made.empty() ? nullptr : current;
-}
-
-/// Says whether the type that `member` names exists, and finds it when it is not built in.
-bool CKTCOBOLGenerator::FindUnionMember(const CKTXMLElement* unionElement, UnionMember& member) {
-    member.builtIn = FindBuiltIn(unionElement, member.name);
-    if (member.builtIn == nullptr) {
-        member.type = FindType(unionElement, member.name);
-    }
-    return member.builtIn != nullptr || member.type != nullptr;
-}
-
-/// Makes the item of one member with its value: in the item itself for the first member, in a
-/// further item below it for the others. Returns null when no value came of it.
-CKTCOBOLRecordItem* CKTCOBOLGenerator::MakeUnionItem(const UnionMember& member, std::size_t number,
-                                                     unsigned level, unsigned indent,
-                                                     Item* current) {
-    Item* item =
-        MakeGeneratedItem(current, current->m_sDataName, "-union-value-" + std::to_string(number));
-    if (item == nullptr) {
-        return nullptr;
-    }
-    Item* holder = number == 0 ? item : MakeGeneratedItem(item, item->m_sDataName, "-data");
-    if (holder == nullptr) {
-        RemoveItem(item);
-        return nullptr;
-    }
-    if (member.builtIn != nullptr) {
-        TakeBuiltIn(holder, *member.builtIn);
-        return item;
-    }
-    const CKTActiveGuard active(m_ActiveTypes, ActiveType(holder, member.type));
-    Item* cursor = holder;
-    getCOBOLFromSchema(member.type, level + 1, indent + 1, &cursor);
-    if (cursor == holder) {
-        return item;
-    }
-    if (holder != item) {
-        RemoveItem(item);
-    }
-    return nullptr;
+    return made.empty() ? Answer::Nothing : Answer::Made;
 }

@@ -26,6 +26,20 @@ inline const std::string kTooMuchEntityText =
 inline constexpr std::chrono::seconds kMaxFetchSilence{30};
 inline constexpr std::size_t kMaxFetchedBytes = 1UL << 30;
 
+/// Data items and condition names of one record; constructs that the walk to it visits, and how
+/// deeply they are nested.
+inline constexpr std::uint64_t kMaxRecordItems = 1'000'000;
+inline constexpr std::uint64_t kMaxConstructsVisited = 20'000'000;
+inline constexpr std::uint64_t kMaxConstructDepth = 10'000;
+/// The highest level number of a data item, and that of condition names.
+inline constexpr int kMaxItemLevel = 49;
+inline constexpr int kConditionNameLevel = 88;
+
+inline const std::string kTooManyRecordItems =
+    "\" exceeds " + std::to_string(kMaxRecordItems) + " data items.";
+inline const std::string kTooDeepForCobol =
+    "\" is nested deeper than COBOL level " + std::to_string(kMaxItemLevel) + ".";
+
 /// The longest answer to a question that is looked at, its end included; of a longer one the rest
 /// is passed over, up to the second bound.
 inline constexpr std::size_t kMaxAnswerSize = 1024;
