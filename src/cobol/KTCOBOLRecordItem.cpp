@@ -5,19 +5,12 @@
 #include <algorithm>
 #include <iostream>
 
+#include "cobol/Complaints.h"
 #include "cobol/FixedFormat.h"
 #include "cobol/RecordWriter.h"
 #include "cobol/UniqueNames.h"
 #include "support/Console.h"
 #include "support/Text.h"
-
-namespace {
-
-void WriteText(std::ostream& out, std::string_view text) {
-    out.write(text.data(), static_cast<std::streamsize>(text.size()));
-}
-
-}  // namespace
 
 CKTCOBOLRecordItem::Form CKTCOBOLRecordItem::FormOf() const {
     if (m_nLevel < 0 || m_sMinOccurs.empty()) {
@@ -37,21 +30,6 @@ CKTCOBOLRecordItem::Form CKTCOBOLRecordItem::FormOf() const {
     return !hasPicture && m_sPicLength.empty() ? Form::Group : Form::Incomplete;
 }
 
-bool CKTCOBOLRecordItem::IsValidCOBOLItem() {
-    const Form form = FormOf();
-    if (form == Form::Complete || form == Form::Unusable) {
-        return form == Form::Complete;
-    }
-    const bool group =
-        form == Form::Group && std::any_of(m_Children.begin(), m_Children.end(), [](auto& child) {
-            return !child->IsCondition() && child->IsValidCOBOLItem();
-        });
-    if (!group) {
-        ReportEmptyStructure();
-    }
-    return group;
-}
-
 bool CKTCOBOLRecordItem::CanBeWritten() const {
     const Form form = FormOf();
     return form == Form::Complete ||
@@ -64,34 +42,8 @@ bool CKTCOBOLRecordItem::CanBeWritten() const {
 void CKTCOBOLRecordItem::ReportEmptyStructure() {
     if (!m_bReported) {
         m_bReported = true;
-        ReportEmptyStructure(m_sDataName);
+        ReportEmptyItem(m_sDataName);
     }
-}
-
-void CKTCOBOLRecordItem::ReportEmptyStructure(std::string_view dataName) {
-    WriteLine(std::cerr, {"Warning : Unable to convert schema element \"", dataName,
-                          "\" to COBOL (empty structure)"});
-}
-
-bool CKTCOBOLRecordItem::FindRecordItemByName(CKTCOBOLRecordItem* searchIn,
-                                              const CKTCOBOLRecordItem* item, bool& reached) {
-    if (!reached && searchIn == item) {
-        reached = true;
-        return true;
-    }
-    for (const auto& child : searchIn->m_Children) {
-        if (!reached && child.get() == item) {
-            reached = true;
-            return true;
-        }
-        if (child->IsValidCOBOLItem() && child->m_sDataName == item->m_sDataName) {
-            return true;
-        }
-        if (FindRecordItemByName(child.get(), item, reached)) {
-            return true;
-        }
-    }
-    return false;
 }
 
 void CKTCOBOLRecordItem::setCOBOLDataName(CKTItemText& target, std::string_view name) {
@@ -112,12 +64,6 @@ void CKTCOBOLRecordItem::RemoveChild(const CKTCOBOLRecordItem* child) {
     if (found != m_Children.rend()) {
         m_Children.erase(std::next(found).base());
     }
-}
-
-std::string CKTCOBOLRecordItem::PictureClause() const {
-    std::string clause;
-    AppendPictureClause(clause);
-    return clause;
 }
 
 void CKTCOBOLRecordItem::AppendPictureClause(std::string& line) const {
@@ -162,16 +108,6 @@ bool CKTCOBOLRecordItem::OutputCOBOLItem(CKTCOBOLRecordItem* item, const std::st
 void CKTCOBOLRecordItem::OutputFixedFormatCOBOL(const char* line, std::ostream& out) {
     std::string entry;
     LayOutEntry(line, entry);
-    WriteText(out.fail() ? std::cout : out, entry);
-}
-
-void CKTCOBOLRecordItem::OutputCOBOLToken(const char* token, std::ostream& out, int indent,
-                                          int& column, bool comment) {
-    if (out.fail()) {
-        return;
-    }
-    std::string text;
-    LayOutToken(token, indent, column, comment, text);
-    WriteText(out, text);
-    out.flush();
+    std::ostream& target = out.fail() ? std::cout : out;
+    target.write(entry.data(), static_cast<std::streamsize>(entry.size()));
 }

@@ -46,8 +46,6 @@ public:
 
     /// Writes the warning that the item has no content, unless it was written before.
     void ReportEmptyStructure();
-    /// The same for something named `dataName` that never became an item.
-    static void ReportEmptyStructure(std::string_view dataName);
 
     /// Searches `searchIn` in pre-order for a valid item below it with the data name of `item`, and
     /// stops at `item` itself. True with `reached` still false: an earlier namesake exists; true

@@ -8,6 +8,7 @@
 #include <iostream>
 #include <utility>
 
+#include "cobol/Complaints.h"
 #include "cobol/FixedFormat.h"
 #include "cobol/KTCOBOLRecordItem.h"
 #include "cobol/UniqueNames.h"
@@ -109,7 +110,7 @@ void CKTRecordWriter::AppendCondition(std::string_view value) {
 void CKTRecordWriter::AppendRedefines(const CKTCOBOLRecordItem& redefined) {
     if (redefined.m_sDataName.empty()) {
         Flush();
-        WriteLine(std::cerr, {"Error : Redefines specified, but no COBOL name present"});
+        ReportNamelessRedefinition();
         return;
     }
     m_sLine += " redefines ";

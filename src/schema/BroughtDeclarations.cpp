@@ -7,9 +7,9 @@
 #include <utility>
 
 void CKTCarriedDeclarations::Add(std::unique_ptr<CKTXMLElement> declaration) {
-    std::string name;
-    if (findAttrByName(declaration.get(), "name", &name) && !name.empty()) {
-        m_Places[name].push_back(m_Declarations.size());
+    const std::string* name = AttributeValue(declaration.get(), "name");
+    if (name != nullptr && !name->empty()) {
+        m_Places[*name].push_back(m_Declarations.size());
     }
     m_Declarations.push_back(std::move(declaration));
 }
@@ -37,9 +37,8 @@ std::string CKTBroughtDeclarations::Key(SchemaKind kind, std::string_view name) 
 void CKTBroughtDeclarations::Append(std::vector<std::unique_ptr<CKTXMLElement>> declarations,
                                     CKTXMLSchemaDoc* owner) {
     for (std::unique_ptr<CKTXMLElement>& declaration : declarations) {
-        std::string name;
-        if (findAttrByName(declaration.get(), "name", &name)) {
-            m_Places[Key(SchemaKindOf(declaration->getName()), name)].push_back(m_Entries.size());
+        if (const std::string* name = AttributeValue(declaration.get(), "name")) {
+            m_Places[Key(SchemaKindOf(declaration->getName()), *name)].push_back(m_Entries.size());
         }
         m_Entries.push_back({std::move(declaration), owner});
     }

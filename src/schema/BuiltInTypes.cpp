@@ -6,7 +6,7 @@
 #include <unordered_map>
 
 #include "cobol/KTCOBOLRecordItem.h"
-#include "schema/SchemaVocabulary.h"
+#include "xml/Namespaces.h"
 
 namespace {
 

@@ -12,8 +12,8 @@ template <typename Add>
 void ForEachDeclaration(const CKTXMLSchemaDoc& doc, Add add) {
     for (int list = COMPLEX_TYPES; list <= REDEFINED; ++list) {
         for (CKTXMLElement* e : doc.getList(static_cast<DeclarationList>(list))) {
-            if (const CKTXMLAttribute* name = e->getAttribute("name")) {
-                add(static_cast<std::size_t>(list), std::string_view(name->getValue()), e);
+            if (const std::string* name = AttributeValue(e, "name")) {
+                add(static_cast<std::size_t>(list), std::string_view(*name), e);
             }
         }
     }
@@ -23,8 +23,8 @@ void ForEachDeclaration(const CKTXMLSchemaDoc& doc, Add add) {
 /// `defaultNamespace`.
 std::string_view NamespaceOf(const CKTXMLElement* e, std::string_view defaultNamespace) {
     for (; e != nullptr; e = e->getParent()) {
-        if (const CKTXMLAttribute* attribute = e->getAttribute("targetNamespace")) {
-            return attribute->getValue();
+        if (const std::string* uri = AttributeValue(e, "targetNamespace")) {
+            return *uri;
         }
     }
     return defaultNamespace;

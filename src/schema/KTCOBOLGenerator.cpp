@@ -5,6 +5,7 @@
 #include <iostream>
 #include <utility>
 
+#include "cobol/Complaints.h"
 #include "schema/Complaints.h"
 #include "schema/GeneratorState.h"
 #include "schema/HeadElements.h"
@@ -103,7 +104,7 @@ bool CKTCOBOLGenerator::ConvertHead(CKTXMLElement* head) {
     if (!written && m_nErrorCount + m_nWarningCount == saidBefore) {
         CKTItemText dataName;
         CKTCOBOLRecordItem::setCOBOLDataName(dataName, shownName);
-        CKTCOBOLRecordItem::ReportEmptyStructure(dataName);
+        ReportEmptyItem(dataName);
     }
     return written;
 }

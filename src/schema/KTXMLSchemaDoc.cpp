@@ -29,9 +29,11 @@ bool IsCarriedKind(const CKTXMLElement& e) {
 
 /// Reads where `part` is to be found: a location elsewhere as written, any other as a file name.
 bool FindLocation(const CKTXMLElement* part, std::string& location) {
-    if (!findAttrByName(part, "schemaLocation", &location)) {
+    const std::string* written = AttributeValue(part, "schemaLocation");
+    if (written == nullptr) {
         return false;
     }
+    location = *written;
     if (location.find("://") == std::string::npos) {
         location = WithBlanks(location);
     }
@@ -42,11 +44,11 @@ bool FindLocation(const CKTXMLElement* part, std::string& location) {
 /// has none of its own.
 bool AdoptNamespace(CKTXMLElement* root, const std::string& uri) {
     CKTXMLElement* schema = root->getFirstChildElem();
-    if (schema == nullptr || schema->getAttribute("targetNamespace") != nullptr) {
+    if (schema == nullptr || AttributeValue(schema, "targetNamespace") != nullptr) {
         return false;
     }
     for (const char* name : {"targetNamespace", "xmlns"}) {
-        if (!uri.empty() && schema->getAttribute(name) == nullptr) {
+        if (!uri.empty() && AttributeValue(schema, name) == nullptr) {
             auto attribute = std::make_unique<CKTXMLAttribute>(name, uri);
             attribute->setParent(schema);
             schema->addAttribute(std::move(attribute));
@@ -145,8 +147,8 @@ void CKTXMLSchemaDoc::TakeBroughtDeclarations() {
 
 void CKTXMLSchemaDoc::ProcessImport(const CKTXMLElement* import, CKTXMLSchemaDoc* target) {
     std::string location;
-    std::string uri;
-    if (!FindLocation(import, location) || !findAttrByName(import, "namespace", &uri)) {
+    const std::string* uri = AttributeValue(import, "namespace");
+    if (!FindLocation(import, location) || uri == nullptr) {
         return;
     }
     CKTXMLSchemaDoc* doc = LoadImport(ImportPath(location, target), target);
@@ -154,7 +156,7 @@ void CKTXMLSchemaDoc::ProcessImport(const CKTXMLElement* import, CKTXMLSchemaDoc
         return;
     }
     target->m_NamespaceSchemaPairs.push_back(
-        m_Set.Keep(std::make_unique<CKTXMLNamespaceSchemaPair>(uri, doc)));
+        m_Set.Keep(std::make_unique<CKTXMLNamespaceSchemaPair>(*uri, doc)));
 }
 
 /// A location counts from the working directory; one that leads nowhere from there counts from the
@@ -234,11 +236,9 @@ void CKTXMLSchemaDoc::ProcessInclude(const CKTXMLElement* include, CKTXMLSchemaD
 
 /// The namespace that this document's schema element writes or has adopted.
 std::string CKTXMLSchemaDoc::OwnNamespace() const {
-    std::string uri;
-    if (m_pSchemaElement != nullptr) {
-        findAttrByName(m_pSchemaElement, "targetNamespace", &uri);
-    }
-    return uri;
+    const std::string* uri =
+        m_pSchemaElement == nullptr ? nullptr : AttributeValue(m_pSchemaElement, "targetNamespace");
+    return uri == nullptr ? std::string() : *uri;
 }
 
 /// Puts each redefinition in the place of what it redefines: a declaration of the redefined file,
@@ -247,14 +247,14 @@ void CKTXMLSchemaDoc::ProcessRedefine(CKTXMLElement* redefine, CKTXMLSchemaDoc* 
                                       CKTCarriedDeclarations& carried, std::size_t from) {
     std::vector<std::optional<std::size_t>> places;
     auto redefinitions = redefine->takeChildElements([&](const CKTXMLElement& child) {
-        std::string name;
-        if (!findAttrByName(&child, "name", &name) || name.empty()) {
+        const std::string* name = AttributeValue(&child, "name");
+        if (name == nullptr || name->empty()) {
             return false;
         }
-        std::unique_ptr<CKTXMLElement> replaced = carried.TakeFirst(name);
+        std::unique_ptr<CKTXMLElement> replaced = carried.TakeFirst(*name);
         std::optional<std::size_t> place;
         if (replaced == nullptr) {
-            place = target->m_Brought.Find(getElementType(&child), name, from);
+            place = target->m_Brought.Find(getElementType(&child), *name, from);
             if (!place || target->m_Brought.At(*place).declaration == nullptr) {
                 return false;
             }

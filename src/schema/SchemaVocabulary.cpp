@@ -1,3 +1,6 @@
+// Words of a schema. A name is found in its table through a slot that its length and its ends
+// choose, because the walk asks for the kind of every construct it meets.
+
 #include "schema/SchemaVocabulary.h"
 
 #include <array>
@@ -12,6 +15,7 @@ constexpr std::array<std::string_view, 28> kSchemaNames = {
     "list",        "all",         "any",         "unique",         "anyAttribute",
     "appInfo",     "key",         "keyRef",      "selector",       "field",
     "import",      "include",     "redefine"};
+static_assert(kSchemaNames.size() == static_cast<std::size_t>(SchemaKind::Other));
 
 constexpr std::array<std::string_view, 27> kGeneratorNames = {
     "schema",      "element",     "attribute",     "attributeGroup", "simpleType",
@@ -20,11 +24,13 @@ constexpr std::array<std::string_view, 27> kGeneratorNames = {
     "all",         "any",         "unique",        "anyAttribute",   "appInfo",
     "key",         "keyRef",      "selector",      "field",          "import",
     "include",     "redefine"};
+static_assert(kGeneratorNames.size() == static_cast<std::size_t>(GeneratorKind::Other));
 
 constexpr std::array<std::string_view, 12> kFacetNames = {
     "length",       "minLength",    "maxLength",    "pattern",
     "enumeration",  "whiteSpace",   "maxInclusive", "maxExclusive",
     "minInclusive", "minExclusive", "totalDigits",  "fractionDigits"};
+static_assert(kFacetNames.size() == static_cast<std::size_t>(FacetKind::None));
 
 constexpr std::size_t kSlots = 128;
 
@@ -100,27 +106,7 @@ CKTXMLElement* compareElemForMultipartSchema(CKTXMLElement* e, const std::string
     }
 }
 
-bool findAttrByName(const CKTXMLElement* e, std::string_view name, std::string* value) {
-    const CKTXMLAttribute* attribute = e->getAttribute(name);
-    if (value != nullptr) {
-        *value = attribute == nullptr ? std::string() : attribute->getValue();
-    }
-    return attribute != nullptr;
-}
-
 const std::string* AttributeValue(const CKTXMLElement* e, std::string_view name) {
     const CKTXMLAttribute* attribute = e->getAttribute(name);
     return attribute == nullptr ? nullptr : &attribute->getValue();
-}
-
-bool findAttrByValue(const CKTXMLElement* e, std::string_view value) {
-    if (value.empty()) {
-        return false;
-    }
-    for (const CKTXMLAttribute* a = e->getFirstAttr(); a != nullptr; a = a->getNextSibling()) {
-        if (a->getValue() == value) {
-            return true;
-        }
-    }
-    return false;
 }

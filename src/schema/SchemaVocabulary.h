@@ -6,9 +6,6 @@
 
 #include "xml/KTXMLElement.h"
 
-/// The namespace of XML Schema itself.
-inline constexpr std::string_view kSchemaNamespace = "http://www.w3.org/2001/XMLSchema";
-
 /// What a schema document tells apart. The generator has a classification of its own
 /// (GeneratorKind): the two lists differ and are not interchangeable. "appInfo" and "keyRef" are
 /// recognised in this spelling only.

@@ -1,10 +1,54 @@
-// The methods of this room that no run calls: the walk asks the resolver, the facets and the tables
+// What this room offers and no run calls: the walk asks the resolver, the facets and the tables
 // themselves. They stay for whoever uses the room as a library, and forward to the same functions.
 
 #include "schema/BuiltInTypes.h"
 #include "schema/GeneratorState.h"
 #include "schema/HeadElements.h"
 #include "schema/KTCOBOLGenerator.h"
+#include "schema/KTXMLNamespaceSchemaPair.h"
+#include "schema/SchemaVocabulary.h"
+
+namespace {
+
+/// Copies what was found; `uri` stays as it is when nothing was.
+bool Answered(const std::string* found, std::string& uri) {
+    if (found != nullptr) {
+        uri = *found;
+    }
+    return found != nullptr;
+}
+
+}  // namespace
+
+bool findAttrByName(const CKTXMLElement* e, std::string_view name, std::string* value) {
+    const std::string* found = AttributeValue(e, name);
+    if (value != nullptr) {
+        *value = found == nullptr ? std::string() : *found;
+    }
+    return found != nullptr;
+}
+
+bool findAttrByValue(const CKTXMLElement* e, std::string_view value) {
+    if (value.empty()) {
+        return false;
+    }
+    for (const CKTXMLAttribute* a = e->getFirstAttr(); a != nullptr; a = a->getNextSibling()) {
+        if (a->getValue() == value) {
+            return true;
+        }
+    }
+    return false;
+}
+
+CKTXMLSchemaDoc* CKTXMLNamespaceSchemaPair::findDocumentByNamespace(
+    std::string_view uri, const std::vector<CKTXMLNamespaceSchemaPair*>& pairs) {
+    for (const CKTXMLNamespaceSchemaPair* pair : pairs) {
+        if (pair->m_sNamespaceURI == uri) {
+            return pair->m_pSchemaDoc;
+        }
+    }
+    return nullptr;
+}
 
 bool CKTCOBOLGenerator::convertXMLtoCOBOL(CKTCOBOLRecordItem* item, const CKTXMLElement* context,
                                           const std::string& typeName) const {
@@ -26,18 +70,6 @@ bool CKTCOBOLGenerator::isSupportedDefaultSchemaType(const CKTXMLElement* contex
     typeName = std::string(CKTXMLNode::getNonQualifiedName(typeName));
     return FindBuiltInForm(typeName) != nullptr;
 }
-
-namespace {
-
-/// Copies what was found; `uri` stays as it is when nothing was.
-bool Answered(const std::string* found, std::string& uri) {
-    if (found != nullptr) {
-        uri = *found;
-    }
-    return found != nullptr;
-}
-
-}  // namespace
 
 bool CKTCOBOLGenerator::getNamespaceURI(const CKTXMLElement* e, std::string_view attrName,
                                         std::string& uri) const {

@@ -4,9 +4,9 @@
 #include <string>
 
 #include "xml/Markup.h"
+#include "xml/Namespaces.h"
 
-/// The namespaces of what the outputs are written in.
-constexpr const char* kSchemaNamespace = "http://www.w3.org/2001/XMLSchema";
+/// The namespaces of what the outputs are written in, besides XML Schema.
 constexpr const char* kInstanceNamespace = "http://www.w3.org/2001/XMLSchema-instance";
 constexpr const char* kMappingNamespace = "http://www.ostrel.com/schema/xml/v1.0/ktxmlmap.xsd";
 constexpr const char* kServiceNamespace = "http://www.ostrel.com/schema/xml/v1.0/ktxml.xsd";
