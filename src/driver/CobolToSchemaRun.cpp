@@ -8,6 +8,7 @@
 
 #include "driver/ByProducts.h"
 #include "driver/CobolCompiler.h"
+#include "driver/CommandLine.h"
 #include "driver/Runs.h"
 #include "support/Console.h"
 #include "support/Files.h"
@@ -36,10 +37,6 @@ int StopAfterParsing(CKTDOMParser& parser, const char* what, const std::string& 
     std::cout << "\n";
     parser.DisplayErrorSummary();
     return StopWithMessage({what, name});
-}
-
-bool HasExtension(const std::string& extension, const char* wanted) {
-    return my_strnicmp(extension.c_str(), wanted, 4) == 0;
 }
 
 /// Says whether the compiler could overwrite something of the user's by writing `dictionary`: a

@@ -84,10 +84,6 @@ bool StartsWith(const char* argument, const char* start) {
     return my_strnicmp(argument, start, static_cast<int>(std::strlen(start))) == 0;
 }
 
-bool HasExtension(const std::string& name, const char* extension) {
-    return my_strnicmp(my_strrchr(name.c_str(), "."), extension, kExtensionLength) == 0;
-}
-
 void ReportFileType(const std::string& name) {
     WriteLine(std::cout, {"Error : Unrecognized file type \"", name, "\""});
 }
@@ -143,6 +139,10 @@ std::optional<int> TakeValidationName(Settings& settings) {
 }
 
 }  // namespace
+
+bool HasExtension(const std::string& name, const char* extension) {
+    return my_strnicmp(my_strrchr(name.c_str(), "."), extension, kExtensionLength) == 0;
+}
 
 void Usage() {
     if (!IsQuiet()) {

@@ -22,6 +22,10 @@ struct Settings {
     bool validate = false;
 };
 
+/// Says whether what stands behind the last period of `name` begins as `extension` does (".XSD" and
+/// the like, with the period), in any case.
+bool HasExtension(const std::string& name, const char* extension);
+
 /// Prints the usage text on standard output; nothing while quiet.
 void Usage();
 
