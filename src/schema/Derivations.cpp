@@ -47,21 +47,21 @@ const CKTXMLElement* FindValueDerivation(const CKTXMLElement* type) {
 class CKTSimpleContent {
 public:
     CKTSimpleContent(CKTWalk& walk, const CKTXMLElement* derivation, OpenItem& open)
-        : m_Base(walk.SimpleBase()), m_pOuterBase(m_Base) {
+        : m_Walk(walk), m_pOuterBase(walk.SimpleBase()) {
         const GeneratorKind above = KindAbove(derivation);
         if (above == GeneratorKind::SimpleContent) {
-            m_Base = AttributeValue(derivation, "base");
+            walk.SetSimpleBase(AttributeValue(derivation, "base"));
             open.isSimpleContent = true;
         } else if (above == GeneratorKind::ComplexContent) {
             open.isSimpleContent = false;
         }
     }
-    ~CKTSimpleContent() { m_Base = m_pOuterBase; }
+    ~CKTSimpleContent() { m_Walk.SetSimpleBase(m_pOuterBase); }
     CKTSimpleContent(const CKTSimpleContent&) = delete;
     CKTSimpleContent& operator=(const CKTSimpleContent&) = delete;
 
 private:
-    const std::string*& m_Base;
+    CKTWalk& m_Walk;
     const std::string* m_pOuterBase;
 };
 

@@ -58,7 +58,8 @@ public:
     ActiveGroups& GroupsWalked() { return m_ActiveGroups; }
 
     /// The base that the innermost simple content names; null for none.
-    const std::string*& SimpleBase() { return m_pSimpleBase; }
+    [[nodiscard]] const std::string* SimpleBase() const { return m_pSimpleBase; }
+    void SetSimpleBase(const std::string* base) { m_pSimpleBase = base; }
 
     /// Applies the facets of a restriction and their condition names to the item.
     void TakeFacets(OpenItem& open, const CKTXMLElement& restriction) {
