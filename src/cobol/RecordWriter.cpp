@@ -12,6 +12,7 @@
 #include "cobol/FixedFormat.h"
 #include "cobol/KTCOBOLRecordItem.h"
 #include "cobol/UniqueNames.h"
+#include "cobol/XmlClauses.h"
 #include "support/Console.h"
 #include "support/Progress.h"
 #include "support/Text.h"
@@ -120,21 +121,21 @@ void CKTRecordWriter::AppendRedefines(const CKTCOBOLRecordItem& redefined) {
 
 void CKTRecordWriter::AppendXmlClauses(const CKTCOBOLRecordItem& item) {
     if (!item.m_sXMLName.empty()) {
-        m_sLine += " identified by \"";
+        m_sLine += kIdentifiedBy;
         m_sLine += item.m_sXMLName;
         m_sLine += '"';
     }
     if (!item.m_sNamespace.empty() &&
         (item.m_pParent == nullptr || !(item.m_pParent->m_sNamespace == item.m_sNamespace))) {
-        m_sLine += " namespace is \"";
+        m_sLine += kNamespaceIs;
         m_sLine += item.m_sNamespace;
         m_sLine += '"';
     }
     if (item.m_bIsAttribute) {
-        m_sLine += " is attribute";
+        m_sLine += kIsAttribute;
     }
     if (m_bCountIn && !item.m_sCountInName.empty()) {
-        m_sLine += " count in ";
+        m_sLine += kCountIn;
         m_sLine += item.m_sCountInName;
     }
 }

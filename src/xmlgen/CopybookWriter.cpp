@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "cobol/KTCOBOLRecordItem.h"
+#include "cobol/XmlClauses.h"
 #include "support/Console.h"
 
 namespace {
@@ -147,19 +148,19 @@ void CKTCopybookWriter::AppendXmlClauses(const DictionaryItem& item) {
     if (item.name.empty()) {
         return;
     }
-    m_sLine += " identified by \"";
+    m_sLine += kIdentifiedBy;
     m_sLine += item.name;
     m_sLine += '"';
     if (!item.uri.empty()) {
-        m_sLine += " namespace is \"";
+        m_sLine += kNamespaceIs;
         m_sLine += item.uri;
         m_sLine += '"';
     }
     if (item.isAttribute) {
-        m_sLine += " is attribute";
+        m_sLine += kIsAttribute;
     }
     if (m_bCountIn && item.countIn) {
-        m_sLine += " count in ";
+        m_sLine += kCountIn;
         m_sLine += m_sPrefix;
         m_sLine += item.name;
         m_sLine += "-count";
