@@ -13,6 +13,11 @@ constexpr int kMaxNesting = CKTCOBOLRecordItem::kMaxLevel + 10;
 
 }  // namespace
 
+bool IsConvertible(const DictionaryItem& item) {
+    return IsDataItem(item.kind) && !item.isRedefinition &&
+           item.level <= CKTCOBOLRecordItem::kMaxLevel;
+}
+
 CKTDictionaryView::CKTDictionaryView(const DictionaryRecord& found,
                                      CKTXMLCOBOLExternalMapping* mapping)
     : m_pMapping(mapping) {

@@ -29,6 +29,10 @@ struct DictionaryItem {
     bool hasElements = false;  ///< has members that are no attributes
 };
 
+/// Says whether XML can hold the item: a data item that redefines nothing and has a level of
+/// COBOL's. Any other is left out of mapping file and schema with what is below it.
+bool IsConvertible(const DictionaryItem& item);
+
 /// The record of a dictionary as a list in document order: the program, the record, and what is
 /// below it; the sections of the dictionary are left out, their members stand in their place. Each
 /// item is described once, for all outputs. A snapshot: later changes of dictionary or mapping set

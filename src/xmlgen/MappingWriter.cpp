@@ -2,7 +2,6 @@
 
 #include "xmlgen/MappingWriter.h"
 
-#include "cobol/KTCOBOLRecordItem.h"
 #include "xmlgen/Vocabularies.h"
 
 namespace {
@@ -21,8 +20,7 @@ bool CKTMappingWriter::Begin(const DictionaryItem& item) {
     if (IsCondition(item.kind)) {
         return true;
     }
-    if (!IsDataItem(item.kind) || item.isRedefinition ||
-        item.level > CKTCOBOLRecordItem::kMaxLevel) {
+    if (!IsConvertible(item)) {
         return false;
     }
     const CKTItemClauses clauses(item.element);

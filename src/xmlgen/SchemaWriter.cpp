@@ -5,7 +5,6 @@
 
 #include <iostream>
 
-#include "cobol/KTCOBOLRecordItem.h"
 #include "support/Console.h"
 #include "support/Text.h"
 #include "xmlgen/Vocabularies.h"
@@ -92,8 +91,7 @@ bool CKTSchemaWriter::Begin(const DictionaryItem& item) {
         m_Open.push_back({indent, indent});
         return true;
     }
-    if (!IsDataItem(item.kind) || item.isRedefinition || item.name.empty() ||
-        item.level > CKTCOBOLRecordItem::kMaxLevel) {
+    if (!IsConvertible(item) || item.name.empty()) {
         return false;
     }
     if (item.kind == DictionaryKind::Group) {

@@ -1,7 +1,6 @@
 // What no run calls: the service description, and methods of the generator that are its interface
 // all the same, of which the runs use what stands behind them.
 
-#include "cobol/KTCOBOLRecordItem.h"
 #include "xmlgen/KTXMLGenerator.h"
 #include "xmlgen/ServiceWriter.h"
 #include "xmlgen/Vocabularies.h"
@@ -20,8 +19,7 @@ bool CKTServiceWriter::Begin(const DictionaryItem& item) {
     if (IsCondition(item.kind)) {
         return true;
     }
-    if (!IsDataItem(item.kind) || item.isRedefinition ||
-        item.level > CKTCOBOLRecordItem::kMaxLevel) {
+    if (!IsConvertible(item)) {
         return false;
     }
     const CKTItemClauses clauses(item.element);
