@@ -1,15 +1,23 @@
 #ifndef DORVEX_COBOL_COMPLAINTS_H
 #define DORVEX_COBOL_COMPLAINTS_H
 
-#include <string_view>
+#include <array>
 
-/// What record items and their writer have to say, each message once; one counted line each on
-/// standard error.
+#include "support/Message.h"
 
-/// An item has nothing to write below it, nor a picture or usage of its own.
-void ReportEmptyItem(std::string_view dataName);
+/// What record items and their writer have to say.
+enum class CobolMessage {
+    EmptyItem,
+    NamelessRedefinition,
+};
 
-/// An item redefines another one that has no name.
-void ReportNamelessRedefinition();
+template <>
+inline constexpr std::array kMessages<CobolMessage> = std::to_array<MessageRow<CobolMessage>>({
+    {CobolMessage::EmptyItem, MessageStream::Errors, kWarningSeverity,
+     "Unable to convert schema element \"{NAME}\" to COBOL (empty structure)"},
+    {CobolMessage::NamelessRedefinition, MessageStream::Errors, kErrorSeverity,
+     "Redefines specified, but no COBOL name present"},
+});
+static_assert(AreInOrder(kMessages<CobolMessage>));
 
 #endif

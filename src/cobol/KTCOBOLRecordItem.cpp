@@ -9,7 +9,6 @@
 #include "cobol/FixedFormat.h"
 #include "cobol/RecordWriter.h"
 #include "cobol/UniqueNames.h"
-#include "support/Console.h"
 #include "support/Text.h"
 
 CKTCOBOLRecordItem::Form CKTCOBOLRecordItem::FormOf() const {
@@ -42,7 +41,7 @@ bool CKTCOBOLRecordItem::CanBeWritten() const {
 void CKTCOBOLRecordItem::ReportEmptyStructure() {
     if (!m_bReported) {
         m_bReported = true;
-        ReportEmptyItem(m_sDataName);
+        Report<CobolMessage::EmptyItem>(m_sDataName);
     }
 }
 

@@ -13,7 +13,6 @@
 #include "cobol/KTCOBOLRecordItem.h"
 #include "cobol/UniqueNames.h"
 #include "cobol/XmlClauses.h"
-#include "support/Console.h"
 #include "support/Progress.h"
 #include "support/Text.h"
 
@@ -111,7 +110,7 @@ void CKTRecordWriter::AppendCondition(std::string_view value) {
 void CKTRecordWriter::AppendRedefines(const CKTCOBOLRecordItem& redefined) {
     if (redefined.m_sDataName.empty()) {
         Flush();
-        ReportNamelessRedefinition();
+        Report<CobolMessage::NamelessRedefinition>();
         return;
     }
     m_sLine += " redefines ";

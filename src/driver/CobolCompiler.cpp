@@ -14,6 +14,7 @@
 #include <iostream>
 #include <vector>
 
+#include "driver/Complaints.h"
 #include "support/Console.h"
 
 namespace {
@@ -39,8 +40,7 @@ void Execute(std::vector<std::string> words) {
     }
     arguments.push_back(nullptr);
     ::execvp(arguments.front(), arguments.data());
-    WriteLine(std::cout,
-              {"Error : Unable to start the COBOL compiler \"", arguments.front(), "\""});
+    Report<DriverMessage::NoCompiler>();
 }
 
 /// A word as the shell passes it on unchanged.

@@ -9,6 +9,7 @@
 #include "driver/ByProducts.h"
 #include "driver/CobolCompiler.h"
 #include "driver/CommandLine.h"
+#include "driver/Complaints.h"
 #include "driver/Runs.h"
 #include "support/Console.h"
 #include "support/Files.h"
@@ -28,15 +29,10 @@ struct FileNames {
     std::string copybook;
 };
 
-int StopWithMessage(std::initializer_list<std::string_view> message) {
-    WriteLine(std::cout, message);
-    return 1;
-}
-
-int StopAfterParsing(CKTDOMParser& parser, const char* what, const std::string& name) {
+/// Ends the report on a document that could not be parsed.
+void SumUpParsing(CKTDOMParser& parser) {
     std::cout << "\n";
     parser.DisplayErrorSummary();
-    return StopWithMessage({what, name});
 }
 
 /// Says whether the compiler could overwrite something of the user's by writing `dictionary`: a
@@ -73,13 +69,14 @@ bool ChooseNames(const Settings& settings, FileNames& names) {
     names.base = source.substr(0, source.size() - extension.size());
     const bool program = HasExtension(extension, ".CBL");
     if (!program && !HasExtension(extension, ".CPY")) {
-        WriteLine(std::cout, {"Error : Unrecognized file type \"", source, "\"\n"});
+        Report<DriverMessage::FileType>(source);
+        std::cout << "\n";
         Usage();
         return false;
     }
     const bool readable = IsReadable(source);
     if (!readable) {
-        WriteLine(std::cerr, {"Note : Source \"", source, "\" cannot be read"});
+        Report<DriverMessage::UnreadableSource>(source);
     }
     names.dictionary = names.base + ".xml";
     if ((!program || IsTaken(names.dictionary)) && !MakeTemporaryCopy(source, readable, names)) {
@@ -103,17 +100,16 @@ bool Compile(const Settings& settings, const FileNames& names) {
     // What the compiler reads is read for this run.
     NoteFileRead(source);
     NoteFileRead(settings.directiveFile);
-    WriteLine(std::cout, {"Checking ", source, " for errors"});
+    Report<DriverMessage::Checking>(source);
     switch (RunCobolCompiler(directives, compileName)) {
         case CompilerResult::NotStarted:
-            WriteLine(std::cout, {"Error : Unable to create cobol compiler process"});
+            Report<DriverMessage::NotStarted>();
             return false;
         case CompilerResult::NotReturned:
-            WriteLine(std::cout, {"Error : Failed to return from COBOL compiler execution"});
+            Report<DriverMessage::NotReturned>();
             return false;
         case CompilerResult::NotCompiled:
-            WriteLine(std::cout, {"Error : Failed to compile ", source,
-                                  ".  Please correct the errors and try again."});
+            Report<DriverMessage::NotCompiled>(source);
             return false;
         case CompilerResult::Compiled:
             break;
@@ -149,7 +145,8 @@ public:
         }
         CKTDOMParser parser;
         if (!parser.ParseFile(name, CKTDOMParser::XML_DOCUMENT, false)) {
-            StopAfterParsing(parser, "Failed to validate ", name);
+            SumUpParsing(parser);
+            Report<DriverMessage::NotValidated>(name);
             return false;
         }
         if (const std::unique_ptr<CKTXMLElement> root = parser.getXMLDocument()) {
@@ -181,9 +178,12 @@ int WriteOutputs(CKTDOMParser& parser, const Settings& settings, const FileNames
     generator.setCOBOLDataDictionary(root.get());
     byProducts.Delete();
     if (!generator.HasRecord()) {
-        const char* missing = generator.HasProgram() ? "record" : "program";
-        return StopWithMessage({"Error : No ", missing, " found in COBOL data dictionary \"",
-                                settings.sourceName, "\""});
+        if (generator.HasProgram()) {
+            Report<DriverMessage::NoRecord>(settings.sourceName);
+        } else {
+            Report<DriverMessage::NoProgram>(settings.sourceName);
+        }
+        return 1;
     }
     CKTOutputs outputs(generator, settings, names);
     if (!settings.mappingName.empty() && !outputs.TakeMapping(mapping)) {
@@ -199,7 +199,8 @@ int WriteOutputs(CKTDOMParser& parser, const Settings& settings, const FileNames
 std::optional<int> RunCobolToSchema(const Settings& settings) {
     CKTDOMParser parser;
     if (settings.sourceName.empty()) {
-        return StopWithMessage({"Error : Failed to specify COBOL filename"});
+        Report<DriverMessage::NoCobolName>();
+        return 1;
     }
     FileNames names;
     if (!ChooseNames(settings, names)) {
@@ -210,7 +211,9 @@ std::optional<int> RunCobolToSchema(const Settings& settings) {
         return 1;
     }
     if (!parser.ParseFile(names.dictionary, CKTDOMParser::XML_DOCUMENT, false)) {
-        return StopAfterParsing(parser, "Failed to create ", names.schema);
+        SumUpParsing(parser);
+        Report<DriverMessage::NotCreated>(names.schema);
+        return 1;
     }
     if (WriteOutputs(parser, settings, names, byProducts) != 0) {
         return 1;

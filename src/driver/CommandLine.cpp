@@ -6,6 +6,7 @@
 #include <iostream>
 #include <string_view>
 
+#include "driver/Complaints.h"
 #include "support/Console.h"
 #include "support/Text.h"
 
@@ -84,14 +85,10 @@ bool StartsWith(const char* argument, const char* start) {
     return my_strnicmp(argument, start, static_cast<int>(std::strlen(start))) == 0;
 }
 
-void ReportFileType(const std::string& name) {
-    WriteLine(std::cout, {"Error : Unrecognized file type \"", name, "\""});
-}
-
 /// Marks the kind of source that a file argument gives, unless the other kind was given before.
 void MarkSource(const std::string& name, bool otherGiven, bool& given) {
     if (otherGiven) {
-        WriteLine(std::cout, {"Error : Invalid command line option, ignoring \"", name, "\""});
+        Report<DriverMessage::IgnoredFile>(name);
     } else {
         given = true;
     }
@@ -99,8 +96,7 @@ void MarkSource(const std::string& name, bool otherGiven, bool& given) {
 
 std::optional<int> TakeFileArgument(const std::string& name, Settings& settings) {
     if (!settings.firstName.empty()) {
-        WriteLine(std::cout, {"Warning : Source filename \"", settings.firstName,
-                              "\" already specified.  Ignoring \"", name, "\""});
+        Report<DriverMessage::SecondSource>(settings.firstName, name);
         return {};
     }
     settings.firstName = name;
@@ -115,7 +111,7 @@ std::optional<int> TakeFileArgument(const std::string& name, Settings& settings)
             settings.instanceName = name;
         }
     } else {
-        ReportFileType(name);
+        Report<DriverMessage::FileType>(name);
         Usage();
         return 1;
     }
@@ -132,7 +128,7 @@ std::optional<int> TakeValidationName(Settings& settings) {
     } else if (HasExtension(settings.firstName, ".XSD")) {
         settings.schemaName = settings.firstName;
     } else {
-        ReportFileType(settings.firstName);
+        Report<DriverMessage::FileType>(settings.firstName);
         return 1;
     }
     return {};
@@ -180,7 +176,7 @@ std::optional<int> ReadCommandLine(int argc, char** argv, Settings& settings) {
             return StartsWith(argument, o.name);
         });
         if (option == kOptions.end()) {
-            WriteLine(std::cout, {"Error : Invalid option \"", argument, "\""});
+            Report<DriverMessage::InvalidOption>(argument);
             return 1;
         }
         if (option->value != nullptr) {
@@ -197,7 +193,7 @@ std::optional<int> ReadCommandLine(int argc, char** argv, Settings& settings) {
         }
     }
     if (settings.firstName.empty()) {
-        WriteLine(std::cout, {"Error : Source filename not specified"});
+        Report<DriverMessage::NoSource>();
         return 1;
     }
     return {};
@@ -214,8 +210,7 @@ int ProcessCmdLineNameValue(int argc, char** argv, int index, const char* option
     if (index + 1 < argc) {
         value = argv[index + 1];
     } else {
-        WriteLine(std::cout,
-                  {"Error : Ignoring incomplete command-line option \"", argv[index], "\""});
+        Report<DriverMessage::IncompleteOption>(argv[index]);
     }
     return index + 1;
 }

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "driver/CommandLine.h"
+#include "driver/Complaints.h"
 #include "driver/DependencyFile.h"
 #include "driver/Environment.h"
 #include "driver/Runs.h"
@@ -41,7 +42,7 @@ std::optional<int> Run(int argc, char** argv) {
 
 /// Ends what an exception has left.
 int StopWith(const std::string& fault) {
-    WriteLine(std::cerr, {"Internal Error : ", fault});
+    Report<DriverMessage::Fault>(fault);
     return 1;
 }
 

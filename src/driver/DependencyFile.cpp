@@ -10,7 +10,7 @@
 #include <system_error>
 #include <vector>
 
-#include "support/Console.h"
+#include "support/Complaints.h"
 
 namespace {
 
@@ -75,6 +75,6 @@ void WriteDependencyFile(const std::string& name) {
     file << rule;
     file.close();
     if (file.fail()) {
-        ReportUnwritableOutput(name);
+        Report<SupportMessage::UnwritableOutput>(name);
     }
 }

@@ -2,6 +2,7 @@
 #include <memory>
 #include <string_view>
 
+#include "driver/Complaints.h"
 #include "driver/Environment.h"
 #include "driver/Runs.h"
 #include "schema/KTCOBOLGenerator.h"
@@ -22,9 +23,9 @@ std::string DefaultCopybookName(const std::string& schemaName) {
 }
 
 int StopWithoutNames(const Settings& settings) {
-    WriteLine(std::cout, {"Error : Failed to specify XML Schema filename"});
+    Report<DriverMessage::NoSchemaName>();
     if (settings.copybookName.empty()) {
-        WriteLine(std::cout, {"Error : Failed to specify COBOL Copybook filename"});
+        Report<DriverMessage::NoCopybookName>();
     }
     return 1;
 }
@@ -54,16 +55,16 @@ std::optional<int> RunSchemaToCobol(const Settings& settings) {
     if (schemaName.empty()) {
         return StopWithoutNames(settings);
     }
-    WriteLine(std::cout, {"Checking ", schemaName, " for errors"});
+    Report<DriverMessage::Checking>(schemaName);
     const std::string copybookName =
         settings.copybookName.empty() ? DefaultCopybookName(schemaName) : settings.copybookName;
     if (!parser.ParseFile(schemaName, CKTDOMParser::XML_SCHEMA, true)) {
         std::cout << "\n";
         parser.DisplayErrorSummary();
-        WriteLine(std::cout, {"Failed to create ", copybookName});
+        Report<DriverMessage::NotCreated>(copybookName);
         return 1;
     }
-    WriteLine(std::cout, {"No schema errors found, processing XML schema ", schemaName});
+    Report<DriverMessage::NoSchemaErrors>(schemaName);
     const std::string schemaPath = OpenedLocation(schemaName);
     WriteCopybook(parser, settings, schemaPath, copybookName);
     return {};

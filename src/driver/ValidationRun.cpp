@@ -1,5 +1,6 @@
 #include <iostream>
 
+#include "driver/Complaints.h"
 #include "driver/Runs.h"
 #include "support/Console.h"
 #include "xml/KTDOMParser.h"
@@ -11,14 +12,14 @@ namespace {
 /// found waits until the lax one has spoken.
 void ValidateDocument(CKTDOMParser& parser, const std::string& name) {
     std::cout << "\n";
-    WriteLine(std::cout, {"Validating \"", name, "\" for well-formedness and schema conformity."});
+    Report<DriverMessage::LaxPass>(name);
     std::cout.flush();
     const bool flawless = parser.IsFlawless(name);
     if (!flawless) {
         parser.CheckDocument(name, false);
     }
     std::cout << "\n";
-    WriteLine(std::cout, {"Validating \"", name, "\" for schema conformity. "});
+    Report<DriverMessage::StrictPass>(name);
     if (!flawless && !parser.ReportHeldComplaints()) {
         parser.CheckDocument(name, true);
     }
@@ -28,12 +29,11 @@ void ValidateDocument(CKTDOMParser& parser, const std::string& name) {
 
 std::optional<int> RunValidation(const Settings& settings) {
     CKTDOMParser parser;
-    WriteLine(std::cout,
-              {"Performing validation of \"", settings.firstName, "\", ignoring other options"});
+    Report<DriverMessage::Validation>(settings.firstName);
     if (!settings.schemaName.empty()) {
         parser.ParseFile(settings.schemaName, CKTDOMParser::XML_SCHEMA, true);
     } else if (settings.instanceName.empty()) {
-        WriteLine(std::cout, {"Error : Failed to specify XML Schema filename"});
+        Report<DriverMessage::NoSchemaName>();
         return 1;
     } else {
         ValidateDocument(parser, settings.instanceName);

@@ -18,14 +18,16 @@ namespace {
 struct DeclarationTraits {
     GeneratorKind kind;
     DeclarationList list;
-    void (*reportMissing)(std::string_view reference);
+    void (*reportMissing)(const std::string_view& reference);
 
     [[nodiscard]] bool IsAttribute() const { return kind == GeneratorKind::Attribute; }
 };
 
-constexpr DeclarationTraits kElement = {GeneratorKind::Element, ELEMENTS, ReportMissingReference};
-constexpr DeclarationTraits kAttribute = {GeneratorKind::Attribute, ATTRIBUTES,
-                                          ReportMissingAttribute};
+constexpr DeclarationTraits kElement = {GeneratorKind::Element, ELEMENTS,
+                                        Report<SchemaMessage::MissingReference, std::string_view>};
+constexpr DeclarationTraits kAttribute = {
+    GeneratorKind::Attribute, ATTRIBUTES,
+    Report<SchemaMessage::MissingAttribute, std::string_view>};
 
 /// The attributes of a declaration that count, read in one pass; null for those that are not there.
 struct WrittenDeclaration {
@@ -125,7 +127,7 @@ Answer TakeReference(CKTWalk& walk, const CKTXMLElement* declaration, const std:
         return Answer::Nothing;
     }
     if (!traits.IsAttribute() && isRecursivePattern(*open.item, target)) {
-        ReportRecursion(ref);
+        Report<SchemaMessage::Recursion>(ref);
         return Answer::Nothing;
     }
     open.isReference = true;
@@ -141,11 +143,11 @@ Answer TakeNamedType(CKTWalk& walk, const CKTXMLElement* declaration, const std:
     }
     CKTXMLElement* definition = meaning.declaration;
     if (definition == nullptr) {
-        ReportUnsupportedType(type);
+        Report<SchemaMessage::UnsupportedType>(type);
         return Answer::Nothing;
     }
     if (!traits.IsAttribute() && isRecursivePattern(*open.item, meaning.complexType)) {
-        ReportRecursion(type);
+        Report<SchemaMessage::Recursion>(type);
         return Answer::Nothing;
     }
     const CKTActiveGuard active(walk.TypesWalked(), CKTWalk::ActiveType(open.item, definition));
@@ -164,7 +166,7 @@ Answer TakeContent(CKTWalk& walk, const CKTXMLElement* declaration, const Declar
         return TakeReference(walk, declaration, *written.ref, traits, open);
     }
     if (!traits.IsAttribute() && elementHasSubGroup(walk.Names(), *open.item)) {
-        ReportSubstitutionGroup();
+        Report<SchemaMessage::SubstitutionGroup>();
     }
     return written.type != nullptr ? TakeNamedType(walk, declaration, *written.type, traits, open)
                                    : walk.WalkChildren(declaration, open);

@@ -128,7 +128,7 @@ private:
 Answer WalkBaseType(CKTWalk& walk, CKTXMLElement* type, const std::string& name, OpenItem& open) {
     const CKTActiveGuard active(walk.TypesWalked(), CKTWalk::ActiveType(open.item, type));
     if (!active.IsFirst()) {
-        ReportRecursion(name);
+        Report<SchemaMessage::Recursion>(name);
         return Answer::Made;
     }
     return WithoutNothing(walk.Walk(type, open));
@@ -190,7 +190,7 @@ Answer TakeRestriction(CKTWalk& walk, const CKTXMLElement* restriction, OpenItem
         if (meaning.declaration != nullptr) {
             return RestrictNamedType(walk, restriction, meaning.declaration, *base, open);
         }
-        ReportMissingReference(*base);
+        Report<SchemaMessage::MissingReference>(*base);
     }
     return walk.WalkChildren(restriction, open);
 }
@@ -210,7 +210,7 @@ Answer TakeExtension(CKTWalk& walk, const CKTXMLElement* extension, OpenItem& op
         open.NoteList(walk.SimpleBase());
     } else if (!names.IsOpenType(extension, *base)) {
         if (meaning.declaration == nullptr) {
-            ReportMissingReference(*base);
+            Report<SchemaMessage::MissingReference>(*base);
             return Answer::Nothing;
         }
         answer = WalkBaseType(walk, meaning.declaration, *base, open);

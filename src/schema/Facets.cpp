@@ -23,6 +23,13 @@ std::string_view ShownName(const CKTCOBOLRecordItem& item) {
     return item.m_sXMLName.empty() ? item.m_sDataName : item.m_sXMLName;
 }
 
+std::string WhiteSpaceEffect(const std::string& value) {
+    return value == "preserve"   ? MessageText<SchemaMessage::Preserve>()
+           : value == "replace"  ? MessageText<SchemaMessage::Replace>()
+           : value == "collapse" ? MessageText<SchemaMessage::Collapse>()
+                                 : std::string();
+}
+
 void ApplySize(CKTCOBOLRecordItem& holder, FacetKind kind, const std::string& value) {
     const bool enough = kind == FacetKind::MinLength && !holder.m_sPicLength.empty() &&
                         ReadInteger(holder.m_sPicLength) >= ReadInteger(value);
@@ -131,18 +138,19 @@ void ApplyFacet(const OpenItem& open, const CKTXMLElement& restriction, const CK
                 FacetKind kind) {
     switch (kind) {
         case FacetKind::Pattern:
-            ReportPattern(ShownName(*open.item));
+            Report<SchemaMessage::Pattern>(ShownName(*open.item));
             break;
         case FacetKind::WhiteSpace:
             if (const std::string* value = AttributeValue(&restriction, "value")) {
-                ReportWhiteSpace(*value, ShownName(*open.item));
+                Report<SchemaMessage::WhiteSpace>(ShownName(*open.item), WhiteSpaceEffect(*value));
             }
             break;
         case FacetKind::MaxInclusive:
         case FacetKind::MaxExclusive:
         case FacetKind::MinInclusive:
         case FacetKind::MinExclusive:
-            ReportRange(CKTXMLNode::getNonQualifiedName(facet.getName()), ShownName(*open.item));
+            Report<SchemaMessage::Range>(CKTXMLNode::getNonQualifiedName(facet.getName()),
+                                         ShownName(*open.item));
             break;
         default:
             const std::string* value = AttributeValue(&facet, "value");

@@ -75,7 +75,7 @@ void AppendChosenHeads(const CKTXMLSchemaDoc& main, const std::vector<std::strin
         if (found != elements.end()) {
             heads.push_back(found->second);
         } else {
-            ReportUndeclaredHead(name);
+            Report<SchemaMessage::UndeclaredHead>(name);
         }
     }
 }
@@ -111,9 +111,9 @@ void AppendHeads(const CKTXMLSchemaDoc& document, const CKTNameResolver& names,
     const std::size_t earlier = heads.size();
     AppendUnreferenced(document, names, heads);
     if (heads.size() == earlier) {
-        ReportNoHead();
+        Report<SchemaMessage::NoHead>();
     } else if (heads.size() > earlier + 1) {
-        ReportSeveralHeads();
+        Report<SchemaMessage::SeveralHeads>();
     }
 }
 

@@ -9,6 +9,7 @@
 #include "schema/Complaints.h"
 #include "schema/GeneratorState.h"
 #include "schema/HeadElements.h"
+#include "support/Complaints.h"
 #include "support/Console.h"
 #include "support/Files.h"
 
@@ -16,9 +17,9 @@ namespace {
 
 void ReportExcess(CKTRecordTree::Excess excess, std::string_view record) {
     if (excess == CKTRecordTree::Excess::TooManyItems) {
-        ReportTooManyItems(record);
+        Report<SchemaMessage::TooManyItems>(record, kMaxRecordItems);
     } else {
-        ReportTooComplex(record);
+        Report<SchemaMessage::TooComplex>(record);
     }
 }
 
@@ -27,14 +28,14 @@ void ReportExcess(CKTRecordTree::Excess excess, std::string_view record) {
 bool CKTCOBOLGenerator::GenerateFile(const std::string& outputName, const std::string& writerText,
                                      bool writerFlag1, bool writerFlag2) {
     if (outputName.empty()) {
-        WriteLine(std::cout, {"Invalid filename.  Outputting  to console:\n"});
+        Report<SchemaMessage::NoFileName>();
     }
     CKTOutputFile file(outputName);
     const bool toFile = file.IsOpen();
     if (m_pDocument == nullptr) {
-        ReportMissingDocument();
+        Report<SchemaMessage::NoDocument>();
     } else if (m_pDocument->getSchemaElement() == nullptr) {
-        ReportMissingSchema();
+        Report<SchemaMessage::NoSchema>();
     } else {
         CKTXMLElement* schema = m_pDocument->getSchemaElement();
         GeneratorState().currentSchemaElement = schema;
@@ -45,7 +46,7 @@ bool CKTCOBOLGenerator::GenerateFile(const std::string& outputName, const std::s
     }
     // A record that went to a silenced console is lost, and nothing else says so.
     if (!file.Close() || (!toFile && IsQuiet())) {
-        ReportUnwritableOutput(outputName);
+        Report<SupportMessage::UnwritableOutput>(outputName);
     }
     return toFile;
 }
@@ -86,7 +87,7 @@ void CKTCOBOLGenerator::ConvertSchema(CKTXMLElement* schema) {
         m_Walk.Records().Begin();
     }
     std::cerr << "\n";
-    ReportConverted(written, heads.size());
+    Report<SchemaMessage::Converted>(written, heads.size());
 }
 
 bool CKTCOBOLGenerator::ConvertHead(CKTXMLElement* head) {
@@ -104,7 +105,7 @@ bool CKTCOBOLGenerator::ConvertHead(CKTXMLElement* head) {
     if (!written && m_nErrorCount + m_nWarningCount == saidBefore) {
         CKTItemText dataName;
         CKTCOBOLRecordItem::setCOBOLDataName(dataName, shownName);
-        ReportEmptyItem(dataName);
+        Report<CobolMessage::EmptyItem>(dataName);
     }
     return written;
 }
@@ -112,7 +113,7 @@ bool CKTCOBOLGenerator::ConvertHead(CKTXMLElement* head) {
 bool CKTCOBOLGenerator::ProcessSchemaElement(const CKTXMLElement* schema, bool& processChildren) {
     const std::string* form = AttributeValue(schema, "attributeFormDefault");
     if (form != nullptr && *form == "true") {
-        ReportQualifiedAttributes();
+        Report<SchemaMessage::QualifiedAttributes>();
         return false;
     }
     processChildren = true;

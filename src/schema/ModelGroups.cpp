@@ -55,12 +55,12 @@ Answer WalkGroupReference(CKTWalk& walk, const CKTXMLElement* e, const std::stri
     CKTXMLElement* target =
         walk.Names().FindReferenced(e, ref, isGroup ? GROUPS : ATTRIBUTE_GROUPS);
     if (target == nullptr) {
-        ReportMissingReference(ref);
+        Report<SchemaMessage::MissingReference>(ref);
         return Answer::Nothing;
     }
     const CKTActiveGuard active(walk.GroupsWalked(), target);
     if (!active.IsFirst()) {
-        ReportRecursion(ref);
+        Report<SchemaMessage::Recursion>(ref);
         return Answer::Nothing;
     }
     return WithoutNothing(walk.Walk(target, open));

@@ -20,7 +20,7 @@ void OpenItem::NoteList(const std::string* base) {
 
 void OpenItem::LeaveListOut() {
     isList = false;
-    ReportLostList(listBase == nullptr ? std::string_view() : *listBase);
+    Report<SchemaMessage::LostList>(listBase == nullptr ? std::string_view() : *listBase);
 }
 
 void CKTRecordTree::Begin() {
@@ -51,7 +51,7 @@ bool CKTRecordTree::CountVisit(std::uint64_t depth) {
 
 Item* CKTRecordTree::MakeItem(Item* parent, std::string_view shownName) {
     if (parent != nullptr && parent->m_nLevel >= kMaxItemLevel) {
-        ReportTooDeep(shownName);
+        Report<SchemaMessage::TooDeep>(shownName, kMaxItemLevel);
         return nullptr;
     }
     if (!CountItem()) {

@@ -40,7 +40,7 @@ Answer TakeTypeDefinition(CKTWalk& walk, CKTXMLElement* definition, OpenItem& op
         open.item->m_pSourceElement = definition;
     }
     if (const std::string* name = UnconstrainedDeclaration(definition)) {
-        ReportUnconstrainedType(*name);
+        Report<SchemaMessage::UnconstrainedType>(*name);
         return Answer::Nothing;
     }
     const std::string* mixed = AttributeValue(definition, "mixed");

@@ -84,7 +84,7 @@ Answer TakeUnion(CKTWalk& walk, const CKTXMLElement* unionElement, OpenItem& ope
     for (std::size_t number = 0; number < members.size(); ++number) {
         UnionMember& member = members[number];
         if (!FindMember(walk.Names(), unionElement, member)) {
-            ReportMissingMember(member.name);
+            Report<SchemaMessage::MissingMember>(member.name);
             for (; !made.empty(); made.pop_back()) {
                 walk.Records().Remove(*made.back());
             }

@@ -72,7 +72,7 @@ Answer CKTWalk::Dispatch(CKTXMLElement* construct, OpenItem& open) {
             return Answer::Made;
         case GeneratorKind::Any:
         case GeneratorKind::AnyAttribute:
-            ReportWildcard();
+            Report<SchemaMessage::Wildcard>();
             return Answer::Made;
         case GeneratorKind::Extension:
             return TakeExtension(*this, construct, open);

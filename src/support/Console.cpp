@@ -6,9 +6,9 @@
 #include <optional>
 #include <string>
 
+#include "support/Complaints.h"
 #include "support/LogFile.h"
 #include "support/Progress.h"
-#include "support/Severity.h"
 #include "support/Text.h"
 
 int m_nErrorCount = 0;
@@ -17,9 +17,6 @@ int m_nWarningCount = 0;
 namespace {
 
 constexpr const char* kLogName = "./dorvex.log";
-constexpr std::string_view kBanner =
-    "Ostrel DORVEX Version 1.0\n"
-    "Copyright (c) the dorvex authors. All rights reserved.\n\n";
 
 /// What the console is made of at the moment. `output` is where standard output leads when no
 /// output file borrows it; the saved buffer is set only while standard output is silenced or leads
@@ -83,26 +80,14 @@ std::ostream& operator<<(std::ostream& stream, const char* text) {
     return stream << const_cast<char*>(text);
 }
 
-void WriteLine(std::ostream& stream, std::initializer_list<std::string_view> pieces) {
-    std::string line;
-    for (const std::string_view piece : pieces) {
-        line += piece;
-    }
-    line += '\n';
-    stream << line.c_str();
-}
-
-void ReportUnwritableOutput(std::string_view name) {
-    WriteLine(std::cerr, {"Error : Unable to write output file \"", name, "\""});
-}
-
 void DisplayHeader() {
     ConsoleState& state = State();
     if (state.bannerShown || state.quiet) {
         return;
     }
     state.bannerShown = true;
-    state.output->sputn(kBanner.data(), static_cast<std::streamsize>(kBanner.size()));
+    const std::string banner = MessageText<SupportMessage::Banner>() + '\n';
+    state.output->sputn(banner.data(), static_cast<std::streamsize>(banner.size()));
     state.output->pubsync();
 }
 
@@ -118,7 +103,7 @@ void OpenLog() {
     }
     DisplayHeader();
     if (!opened) {
-        ReportUnwritableOutput(kLogName);
+        Report<SupportMessage::UnwritableOutput>(kLogName);
     }
 }
 
@@ -158,7 +143,7 @@ void RestoreStreams() {
         state.logErrors.reset();
         state.logOutput.reset();
         if (!state.log.Close()) {
-            ReportUnwritableOutput(kLogName);
+            Report<SupportMessage::UnwritableOutput>(kLogName);
         }
     }
 }

@@ -1,9 +1,7 @@
 #ifndef DORVEX_SUPPORT_CONSOLE_H
 #define DORVEX_SUPPORT_CONSOLE_H
 
-#include <initializer_list>
 #include <iosfwd>
-#include <string_view>
 
 /// Messages counted so far in this process; the counting output operator and the parser's error
 /// handler add to them, and together they make the exit status.
@@ -16,13 +14,6 @@ extern int m_nWarningCount;
 /// stream without a buffer swallows the text, uncounted.
 std::ostream& operator<<(std::ostream& stream, char* text);
 std::ostream& operator<<(std::ostream& stream, const char* text);
-
-/// Writes the pieces and a line end as one text through the counting operator, so that a message
-/// reaches the stream in one piece and is counted by its beginning. Pieces hold no NUL.
-void WriteLine(std::ostream& stream, std::initializer_list<std::string_view> pieces);
-
-/// Reports as an error that the output file `name` could not be written completely.
-void ReportUnwritableOutput(std::string_view name);
 
 /// Shows the banner on the console or in the log, once per process; never while quiet and never in
 /// an output file that standard output is redirected into.

@@ -15,6 +15,7 @@
 #include <sstream>
 #include <vector>
 
+#include "support/Complaints.h"
 #include "support/Console.h"
 #include "support/FilesUsed.h"
 #include "support/Limits.h"
@@ -45,9 +46,9 @@ bool AskToKeep(const std::string& name) {
     // The console is lent for the first question only: a repeated one goes where the errors go.
     auto console = std::make_unique<CKTConsoleForErrors>();
     std::cerr << "\n";
-    WriteLine(std::cerr, {"Warning : The file \"", name, "\" already exists"});
+    Report<SupportMessage::FileExists>(name);
     for (;;) {
-        std::cerr << "Would you like to overwrite " << name << "? (y/n) ";
+        std::cerr << MessageText<SupportMessage::Overwrite>(name).c_str();
         std::string answer;
         const bool more = ReadAnswer(answer);
         if (more && ::isatty(STDIN_FILENO) != 0) {
@@ -79,7 +80,7 @@ std::string RandomStem() {
 
 bool FileExists(const std::string& name, bool prompt) {
     if (name.empty()) {
-        WriteLine(std::cout, {"Error : Invalid Filename.  Unable to create \"", name, "\""});
+        Report<SupportMessage::NoFileName>(name);
         return true;
     }
     // Without blocking, so that a pipe that nobody writes to does not hold the program up.
@@ -88,8 +89,7 @@ bool FileExists(const std::string& name, bool prompt) {
         return false;
     }
     if (::close(file) != 0) {
-        WriteLine(std::cout,
-                  {"Error : Failed to close file \"", name, "\" Ending DORVEX process. "});
+        Report<SupportMessage::CannotClose>(name);
         RestoreStreams();
         std::exit(1);
     }
@@ -120,11 +120,11 @@ bool CopyFileToFile(const std::string& from, const std::string& to) {
     }
     output.close();
     if (writable && output.fail()) {
-        ReportUnwritableOutput(to);
+        Report<SupportMessage::UnwritableOutput>(to);
         return false;
     }
     if (!writable || !input.eof() || input.bad()) {
-        WriteLine(std::cout, {"Error : Unable to copy file contents of ", from, " to ", to});
+        Report<SupportMessage::CannotCopy>(from, to);
         return false;
     }
     return true;
@@ -151,7 +151,7 @@ std::string GetTemporaryFilename(const char* extensions) {
             return stem;
         }
         if (errno != EEXIST) {
-            ReportUnwritableOutput(reserved);
+            Report<SupportMessage::UnwritableOutput>(reserved);
             return {};
         }
     }

@@ -4,10 +4,9 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
-#include <string>
 
-/// The bounds that keep an input from taking the program's time, memory or stack, and the texts
-/// that name them.
+/// The bounds that keep an input from taking the program's time, memory or stack. Messages that
+/// name one are made with it.
 
 /// Levels of elements in a schema file, and of parentheses in a pattern.
 inline constexpr std::uint64_t kMaxSchemaDepth = 20'000;
@@ -18,9 +17,6 @@ inline constexpr std::uint64_t kMaxEntityExpansions = 50'000;
 inline constexpr std::uint64_t kMaxEntityText = 20'000'000;
 /// Repetitions of a model group in a schema that documents are validated against.
 inline constexpr std::uint64_t kMaxGroupRepetitions = 20'000;
-
-inline const std::string kTooMuchEntityText =
-    "entities expand to more than " + std::to_string(kMaxEntityText) + " characters";
 
 /// The time for which a server may send nothing, and what is fetched from one location at most.
 inline constexpr std::chrono::seconds kMaxFetchSilence{30};
@@ -34,11 +30,6 @@ inline constexpr std::uint64_t kMaxConstructDepth = 10'000;
 /// The highest level number of a data item, and that of condition names.
 inline constexpr int kMaxItemLevel = 49;
 inline constexpr int kConditionNameLevel = 88;
-
-inline const std::string kTooManyRecordItems =
-    "\" exceeds " + std::to_string(kMaxRecordItems) + " data items.";
-inline const std::string kTooDeepForCobol =
-    "\" is nested deeper than COBOL level " + std::to_string(kMaxItemLevel) + ".";
 
 /// The longest answer to a question that is looked at, its end included; of a longer one the rest
 /// is passed over, up to the second bound.

@@ -8,7 +8,7 @@
 
 #include <cerrno>
 
-#include "support/Console.h"
+#include "support/Complaints.h"
 
 namespace {
 
@@ -42,7 +42,7 @@ void CKTLogFile::Write(std::string_view text, std::streambuf& console) {
         console.pubsync();
     }
     if (m_bFailed && !failedBefore) {
-        ReportUnwritableOutput(m_sName);
+        Report<SupportMessage::UnwritableOutput>(m_sName);
     }
 }
 

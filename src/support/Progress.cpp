@@ -11,6 +11,8 @@
 #include <optional>
 #include <ostream>
 
+#include "support/Complaints.h"
+
 namespace {
 
 constexpr std::chrono::seconds kDelay{2};
@@ -129,10 +131,9 @@ void CKTProgressLine::ShowWhenDue() {
 }
 
 std::string CKTProgressLine::Text() const {
-    std::string text = std::to_string(m_nBytes) + " bytes read";
-    if (m_nItems > 0) {
-        text += ", " + std::to_string(m_nItems) + " items written";
-    }
+    const std::string text = m_nItems > 0
+                                 ? MessageText<SupportMessage::BytesAndItems>(m_nBytes, m_nItems)
+                                 : MessageText<SupportMessage::BytesRead>(m_nBytes);
     return text.substr(0, WidthOf(m_nTerminal));
 }
 

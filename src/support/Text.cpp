@@ -9,7 +9,7 @@
 #include <iostream>
 #include <limits>
 
-#include "support/Console.h"
+#include "support/Complaints.h"
 
 namespace {
 
@@ -58,7 +58,7 @@ std::wstring my_mbstowcs(const char* text) {
     }
     const std::size_t length = std::mbstowcs(nullptr, text, 0);
     if (length == static_cast<std::size_t>(-1)) {
-        WriteLine(std::cerr, {"Error : Unable to convert multibyte character to Unicode"});
+        Report<SupportMessage::NoWideCharacter>();
         return {};
     }
     std::wstring wide(length + 1, L'\0');
@@ -73,7 +73,7 @@ std::string my_wcstombs(const wchar_t* text) {
     }
     const std::size_t length = std::wcstombs(nullptr, text, 0);
     if (length == static_cast<std::size_t>(-1)) {
-        WriteLine(std::cerr, {"Error : Unable to convert Unicode character to multibyte"});
+        Report<SupportMessage::NoNarrowCharacter>();
         return {};
     }
     std::string narrow(length + 1, '\0');

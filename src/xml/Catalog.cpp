@@ -8,7 +8,6 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
-#include <iostream>
 #include <memory>
 #include <set>
 
@@ -16,8 +15,8 @@
 #include <libxml/xmlIO.h>
 #include <libxml/xmlerror.h>
 
-#include "support/Console.h"
 #include "support/FilesUsed.h"
+#include "xml/Complaints.h"
 #include "xml/Paths.h"
 
 namespace {
@@ -29,7 +28,7 @@ void NoteUnusable(const std::string& catalog, std::string_view reason) {
         reason.remove_suffix(1);
     }
     if (noted.insert(catalog).second) {
-        WriteLine(std::cerr, {"Note : XML catalog \"", catalog, "\" cannot be used: ", reason});
+        Report<XmlMessage::UnusableCatalog>(catalog, reason);
     }
 }
 
@@ -55,9 +54,10 @@ void* OpenCatalog(const char* name) {
     if (file != nullptr) {
         NoteFileRead(path);
     } else if (IsLocation(path)) {
-        NoteUnusable(path, "it is not fetched");
+        NoteUnusable(path, MessageText<XmlMessage::CatalogNotFetched>());
     } else if (fault != ENOENT || std::getenv("XML_CATALOG_FILES") != nullptr) {
-        NoteUnusable(path, fault == 0 ? "it is no file" : std::strerror(fault));
+        NoteUnusable(
+            path, fault == 0 ? MessageText<XmlMessage::CatalogIsNoFile>() : std::strerror(fault));
     }
     return file;
 }

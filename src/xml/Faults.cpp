@@ -8,6 +8,7 @@
 #include <xercesc/util/XMLException.hpp>
 
 #include "support/Text.h"
+#include "xml/Complaints.h"
 
 std::string DescribeFault() {
     try {
@@ -15,7 +16,7 @@ std::string DescribeFault() {
     } catch (const std::exception& e) {
         return e.what();
     } catch (const xercesc::OutOfMemoryException&) {
-        return "Out of memory";
+        return MessageText<XmlMessage::OutOfMemory>();
     } catch (const xercesc::XMLException& e) {
         return NarrowMessage(e.getMessage());
     } catch (const xercesc::SAXException& e) {
@@ -23,6 +24,6 @@ std::string DescribeFault() {
     } catch (const xercesc::DOMException& e) {
         return NarrowMessage(e.getMessage());
     } catch (...) {
-        return "Unknown fault";
+        return MessageText<XmlMessage::UnknownFault>();
     }
 }

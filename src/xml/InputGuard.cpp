@@ -19,6 +19,7 @@
 
 #include "support/Limits.h"
 #include "support/Text.h"
+#include "xml/Complaints.h"
 #include "xml/InputSources.h"
 #include "xml/KTDOMErrorHandler.h"
 #include "xml/Locations.h"
@@ -52,8 +53,7 @@ public:
     void startElement(const XMLCh*, const XMLCh*, const XMLCh* name,
                       const xercesc::Attributes& attributes) override {
         if (++m_nDepth == kMaxSchemaDepth + 1) {
-            Refuse("elements are nested deeper than " + std::to_string(kMaxSchemaDepth) +
-                   " levels");
+            Refuse(MessageText<XmlMessage::DeepElements>(kMaxSchemaDepth));
         }
         if (m_bDeclaresText) {
             for (XMLSize_t i = 0; i < attributes.getLength(); ++i) {
@@ -87,7 +87,7 @@ private:
     void CountText(XMLSize_t length) {
         m_nEntityText += length;
         if (m_nEntityText > kMaxEntityText) {
-            Refuse(kTooMuchEntityText);
+            Refuse(MessageText<XmlMessage::LongEntities>(kMaxEntityText));
         }
     }
     void CountPattern(std::u16string_view name, const xercesc::Attributes& attributes) {
@@ -98,10 +98,9 @@ private:
         const PatternSize size = MeasurePattern(pattern);
         m_nPatternParts += size.parts;
         if (size.depth > kMaxSchemaDepth) {
-            Refuse("a pattern is nested deeper than " + std::to_string(kMaxSchemaDepth) +
-                   " levels");
+            Refuse(MessageText<XmlMessage::DeepPattern>(kMaxSchemaDepth));
         } else if (m_nPatternParts > kMaxPatternParts) {
-            Refuse("patterns repeat to more than " + std::to_string(kMaxPatternParts) + " parts");
+            Refuse(MessageText<XmlMessage::LongPatterns>(kMaxPatternParts));
         }
     }
     void Refuse(const std::string& reason) {
@@ -176,7 +175,7 @@ bool CKTInputGuard::RefusesToFetch(const xercesc::InputSource& source) {
         return false;
     }
     if (m_NotFetched.insert(*location).second) {
-        m_Handler.Refuse("Error : Network access is off, not fetched: \"" + *location + "\"");
+        m_Handler.Refuse(MessageText<XmlMessage::NotFetched>(*location));
         m_Handler.setMuted(true);
     }
     return true;

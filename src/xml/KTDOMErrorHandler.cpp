@@ -14,15 +14,15 @@ constexpr std::size_t kMaxHeldBytes = 65536;
 }  // namespace
 
 void CKTDOMErrorHandler::warning(const xercesc::SAXParseException& e) {
-    DisplayErrorMsg("Warning", e, true);
+    DisplayErrorMsg<XmlMessage::Warning>(e);
 }
 
 void CKTDOMErrorHandler::error(const xercesc::SAXParseException& e) {
-    DisplayErrorMsg("Error", e, false);
+    DisplayErrorMsg<XmlMessage::Error>(e);
 }
 
 void CKTDOMErrorHandler::fatalError(const xercesc::SAXParseException& e) {
-    DisplayErrorMsg("Fatal Error", e, false);
+    DisplayErrorMsg<XmlMessage::FatalError>(e);
 }
 
 void CKTDOMErrorHandler::resetErrors() {
@@ -31,25 +31,23 @@ void CKTDOMErrorHandler::resetErrors() {
 }
 
 void CKTDOMErrorHandler::DisplayErrorMsgSummary() {
-    std::cerr << std::to_string(m_nErrorCount) + " error(s), " + std::to_string(m_nWarningCount) +
-                     " warning(s)\n";
+    std::cerr << MessageText<XmlMessage::Summary>(m_nErrorCount, m_nWarningCount) + '\n';
 }
 
-void CKTDOMErrorHandler::DisplayErrorMsg(const std::string& kind,
-                                         const xercesc::SAXParseException& e,
-                                         bool isWarning) const {
+template <XmlMessage kMessage>
+void CKTDOMErrorHandler::DisplayErrorMsg(const xercesc::SAXParseException& e) const {
     if (m_bMuted) {
         return;
     }
     const XMLCh* file = e.getSystemId();
     const XMLCh* message = e.getMessage();
-    std::string line = kind + " : " + (file == nullptr ? "" : NarrowMessage(file)) + "(Line " +
-                       std::to_string(e.getLineNumber()) + ", Col " +
-                       std::to_string(e.getColumnNumber()) + ")";
-    if (m_bVerbose) {
-        line += " : " + (message == nullptr ? std::string() : NarrowMessage(message));
+    const std::string text = message == nullptr || !m_bVerbose ? "" : NarrowMessage(message);
+    std::string line = MessageText<kMessage>(file == nullptr ? "" : NarrowMessage(file),
+                                             e.getLineNumber(), e.getColumnNumber(), text);
+    if (!m_bVerbose) {
+        line.resize(line.rfind(" : "));  // ends behind the place
     }
-    Record(line + '\n', isWarning);
+    Record(line + '\n', kMessage == XmlMessage::Warning);
 }
 
 void CKTDOMErrorHandler::Record(const std::string& line, bool isWarning) const {

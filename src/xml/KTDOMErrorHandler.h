@@ -6,6 +6,8 @@
 #include <xercesc/sax/ErrorHandler.hpp>
 #include <xercesc/sax/SAXParseException.hpp>
 
+#include "xml/Complaints.h"
+
 /// The diagnostics of a pass that are not printed yet: their lines, and what they count.
 struct CKTHeldDiagnostics {
     std::string lines;
@@ -48,8 +50,8 @@ public:
     static void Report(const CKTHeldDiagnostics& held);
 
 private:
-    void DisplayErrorMsg(const std::string& kind, const xercesc::SAXParseException& e,
-                         bool isWarning) const;
+    template <XmlMessage kMessage>
+    void DisplayErrorMsg(const xercesc::SAXParseException& e) const;
     void Record(const std::string& line, bool isWarning) const;
 
     bool m_bVerbose = false;

@@ -17,6 +17,7 @@
 #include "support/Limits.h"
 #include "support/Progress.h"
 #include "support/Text.h"
+#include "xml/Complaints.h"
 #include "xml/InputGuard.h"
 #include "xml/InputSources.h"
 #include "xml/KTDOMErrorHandler.h"
@@ -28,13 +29,9 @@
 
 namespace {
 
-void ReportException(const char* prefix, const xercesc::XMLException& e) {
-    WriteLine(std::cerr, {prefix, NarrowMessage(e.getMessage())});
-}
-
 void AnnounceSchema(const std::string& fileName) {
     std::cout << "\n";
-    WriteLine(std::cout, {"Validating ", fileName, " for well-formedness."});
+    Report<XmlMessage::Checking>(fileName);
     std::cout.flush();
 }
 
@@ -148,7 +145,7 @@ bool CKTDOMParser::CKTLibrary::LoadSchema(const std::string& fileName) {
 std::unique_ptr<xercesc::InputSource> CKTDOMParser::CKTLibrary::OpenSource(
     const std::string& fileName) {
     RestartBytesRead();
-    std::u16string fault = u"unable to read data from file";
+    std::u16string fault = WidenText(MessageText<XmlMessage::Unreadable>());
     try {
         auto source = MakeInputSource(nullptr, PathText(fileName).c_str());
         if (m_Guard.RefusesToFetch(*source)) {
@@ -182,12 +179,11 @@ bool CKTDOMParser::CKTLibrary::Load(const xercesc::InputSource& source) {
         }
         return true;
     } catch (const xercesc::XMLException& e) {
-        ReportException("Error : Unable to load schema. Exception Message: ", e);
+        Report<XmlMessage::LoadException>(NarrowMessage(e.getMessage()));
     } catch (const xercesc::DOMException& e) {
-        WriteLine(std::cerr,
-                  {"Error : Unable to load schema. DOMException code: ", std::to_string(e.code)});
+        Report<XmlMessage::LoadTreeException>(e.code);
     } catch (const xercesc::OutOfMemoryException&) {
-        WriteLine(std::cerr, {"Error : Unable to load schema. Out of memory"});
+        Report<XmlMessage::LoadOutOfMemory>();
     }
     return false;
 }
@@ -205,14 +201,13 @@ bool CKTDOMParser::CKTLibrary::Parse(const xercesc::InputSource& source) {
         return m_Reader.Read(source) && m_Reader.getErrorCount() < 1 &&
                !m_Guard.HasRefusedToFetch();
     } catch (const xercesc::XMLException& e) {
-        ReportException("An error occured during parsing. Exception Message: ", e);
+        Report<XmlMessage::ParseException>(NarrowMessage(e.getMessage()));
         ++m_nErrorCount;
         return true;
     } catch (const xercesc::DOMException& e) {
-        WriteLine(std::cerr, {"A DOM error occured during parsing. DOMException code: ",
-                              std::to_string(e.code)});
+        Report<XmlMessage::ParseTreeException>(e.code);
     } catch (...) {
-        WriteLine(std::cerr, {"An error occured during parsing"});
+        Report<XmlMessage::ParseFault>();
     }
     ++m_nErrorCount;
     return false;
@@ -265,7 +260,7 @@ std::unique_ptr<CKTXMLElement> CKTDOMParser::getXMLDocument() {
         library.target = std::make_unique<CKTDOMFormatTarget>();
         library.formatter = std::make_unique<CKTXMLFormatter>(*library.target);
     } catch (const xercesc::XMLException& e) {
-        ReportException("An error occurred during creation of output transcoder. Msg is: ", e);
+        Report<XmlMessage::NoTranscoder>(NarrowMessage(e.getMessage()));
         return nullptr;
     }
     return library.TakeDocument();

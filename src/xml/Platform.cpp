@@ -2,22 +2,20 @@
 
 #include "xml/Platform.h"
 
-#include <iostream>
-
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLException.hpp>
 
-#include "support/Console.h"
 #include "support/Text.h"
+#include "xml/Complaints.h"
 
 namespace {
 
-template <typename Step>
-void Attempt(Step step, const char* complaint) {
+template <XmlMessage kComplaint, typename Step>
+void Attempt(Step step) {
     try {
         step();
     } catch (const xercesc::XMLException& e) {
-        WriteLine(std::cerr, {complaint, NarrowMessage(e.getMessage())});
+        Report<kComplaint>(NarrowMessage(e.getMessage()));
     }
 }
 
@@ -28,11 +26,9 @@ CKTPlatform::CKTPlatform() {
 }
 
 void CKTPlatform::Start() {
-    Attempt([] { xercesc::XMLPlatformUtils::Initialize(); },
-            "Error during Xerces-c Initialization. Exception message: ");
+    Attempt<XmlMessage::NoStart>([] { xercesc::XMLPlatformUtils::Initialize(); });
 }
 
 CKTPlatform::~CKTPlatform() {
-    Attempt([] { xercesc::XMLPlatformUtils::Terminate(); },
-            "Error during Xerces-c termination. Exception message: ");
+    Attempt<XmlMessage::NoStop>([] { xercesc::XMLPlatformUtils::Terminate(); });
 }

@@ -25,6 +25,7 @@
 
 #include "support/Limits.h"
 #include "support/Text.h"
+#include "xml/Complaints.h"
 #include "xml/ContentModels.h"
 #include "xml/KTXMLElement.h"
 
@@ -233,7 +234,7 @@ void CKTTreeReader::EndText() {
 void CKTTreeReader::CountEntityText(XMLSize_t length) {
     m_nEntityText += length;
     if (m_nEntityText > kMaxEntityText) {
-        Refuse(kTooMuchEntityText);
+        Refuse(MessageText<XmlMessage::LongEntities>(kMaxEntityText));
     }
 }
 
@@ -267,8 +268,9 @@ void CKTTreeReader::CheckContentModels() {
         if (grammar == nullptr || AreContentModelsBounded(*grammar, type)) {
             continue;
         }
-        const bool isNamed = !type.starts_with(u"__Anon");
-        Refuse("a model group" + (isNamed ? " of type '" + NarrowMessage(type) + "'" : "") +
-               " repeats more than " + std::to_string(kMaxGroupRepetitions) + " times");
+        Refuse(type.starts_with(u"__Anon")
+                   ? MessageText<XmlMessage::RepeatedGroup>(kMaxGroupRepetitions)
+                   : MessageText<XmlMessage::RepeatedGroupOfType>(NarrowMessage(type),
+                                                                  kMaxGroupRepetitions));
     }
 }

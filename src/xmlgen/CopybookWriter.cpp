@@ -8,7 +8,8 @@
 
 #include "cobol/KTCOBOLRecordItem.h"
 #include "cobol/XmlClauses.h"
-#include "support/Console.h"
+#include "support/Limits.h"
+#include "xmlgen/Complaints.h"
 
 namespace {
 
@@ -26,29 +27,23 @@ constexpr std::array kFixedClauses = {
     FixedClause{Clause::BlankWhenZero, "true", " blank when zero"},
 };
 
-void ReportRedefinition(const CKTItemClauses& clauses) {
-    WriteLine(
-        std::cerr,
-        {"Warning : The redefines clause is not supported by this version of the COBOL runtime. "
-         "The element \"",
-         clauses.Text(Clause::Name),
-         "\" and it's child data items will not be converted by DORVEX."});
-}
-
 void ReportRenaming(const CKTItemClauses& clauses) {
     std::istringstream words{std::string(clauses.Text(Clause::Renames))};
     std::string first;
     std::string second;
     const bool range =
         (words >> first >> second) || clauses.Has(Clause::Through) || clauses.Has(Clause::To);
-    WriteLine(std::cerr, {"Warning : This version of DORVEX does not support the RENAMES clause",
-                          range ? " for ranges" : ""});
+    if (range) {
+        Report<XmlgenMessage::RenamingOfRange>();
+    } else {
+        Report<XmlgenMessage::Renaming>();
+    }
 }
 
 /// Reports an item that redefines or renames another; false for any other.
 bool ReportLeftOut(const CKTItemClauses& clauses) {
     if (clauses.Text(Clause::Redefines) == "true") {
-        ReportRedefinition(clauses);
+        Report<XmlgenMessage::Redefinition>(clauses.Text(Clause::Name));
         return true;
     }
     if (clauses.Has(Clause::Renames)) {
@@ -84,10 +79,8 @@ bool CKTCopybookWriter::BeginDataItem(const DictionaryItem& item) {
     if (ReportLeftOut(clauses)) {
         return false;
     }
-    if (item.level > CKTCOBOLRecordItem::kMaxLevel) {
-        WriteLine(std::cerr,
-                  {"Warning : Data item \"", clauses.Text(Clause::Name),
-                   "\" is nested deeper than COBOL level 49.  Item will not be converted."});
+    if (item.level > kMaxItemLevel) {
+        Report<XmlgenMessage::TooDeep>(clauses.Text(Clause::Name), kMaxItemLevel);
         return false;
     }
     BeginLine(clauses, item.level, std::to_string(item.level));

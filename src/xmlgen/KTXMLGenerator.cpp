@@ -4,11 +4,12 @@
 #include "xmlgen/KTXMLGenerator.h"
 
 #include <algorithm>
-#include <iostream>
 
+#include "support/Complaints.h"
 #include "support/Console.h"
 #include "support/Files.h"
 #include "support/Text.h"
+#include "xmlgen/Complaints.h"
 #include "xmlgen/CopybookWriter.h"
 #include "xmlgen/MappingWriter.h"
 #include "xmlgen/SchemaWriter.h"
@@ -52,34 +53,30 @@ void CKTXMLGenerator::ReportIdleMapping(const std::string& mappingFile) {
         return;
     }
     if (m_pMapping->getFirst() == nullptr) {
-        WriteLine(std::cerr, {"Note : Mapping file \"", mappingFile, "\" holds no entries"});
+        Report<XmlgenMessage::EmptyMapping>(mappingFile);
         return;
     }
     View();  // which matches items and entries
     const std::vector<const CKTXMLCOBOLMapping*> idle = m_pMapping->FindUnmatched();
     for (std::size_t i = 0; i < std::min(idle.size(), kMostIdleEntries); ++i) {
-        WriteLine(std::cerr,
-                  {"Note : Mapping entry \"", idle[i]->m_sCobolName, "\" matches no data item"});
+        Report<XmlgenMessage::IdleEntry>(idle[i]->m_sCobolName);
     }
     if (idle.size() > kMostIdleEntries) {
-        WriteLine(std::cerr, {"Note : ", std::to_string(idle.size() - kMostIdleEntries),
-                              " further mapping entries match no data item"});
+        Report<XmlgenMessage::IdleEntries>(idle.size() - kMostIdleEntries);
     }
 }
 
 bool CKTXMLGenerator::CanWrite() const {
-    const char* fault = nullptr;
     if (m_pDictionary == nullptr) {
-        fault = "Invalid COBOL Data Dictionary";
+        Report<XmlgenMessage::NoDictionary>();
     } else if (m_pDictionary->getFormatTarget() == nullptr) {
-        fault = "Invalid XML Target Formatter";
+        Report<XmlgenMessage::NoTarget>();
     } else if (m_pDictionary->getXMLFormatter() == nullptr) {
-        fault = "Invalid XML Formatter";
+        Report<XmlgenMessage::NoFormatter>();
+    } else {
+        return true;
     }
-    if (fault != nullptr) {
-        WriteLine(std::cerr, {fault});
-    }
-    return fault == nullptr;
+    return false;
 }
 
 bool CKTXMLGenerator::GenerateFile(const std::string& dataDictFile, const std::string& mappingFile,
@@ -97,19 +94,18 @@ bool CKTXMLGenerator::GenerateFile(const std::string& dataDictFile, const std::s
     const bool toFile = file.IsOpen();
     if (!toFile && IsQuiet()) {
         // What goes to a silenced console is lost.
-        ReportUnwritableOutput(name);
+        Report<SupportMessage::UnwritableOutput>(name);
     } else if (name.empty()) {
-        WriteLine(std::cerr, {"Invalid filename.  Outputting XML to console:\n"});
+        Report<XmlgenMessage::NoFileName>();
     } else if (!toFile) {
-        WriteLine(std::cerr,
-                  {"Unable to open output file ", name, "\nOutputting XML to stdout by default\n"});
+        Report<XmlgenMessage::UnopenedOutput>(name);
     }
     {
         CKTMarkup markup(*m_pDictionary->getXMLFormatter(), *m_pDictionary->getFormatTarget());
         WriteOutput(type, markup, dataDictFile, text);
     }
     if (!file.Close()) {
-        ReportUnwritableOutput(name);
+        Report<SupportMessage::UnwritableOutput>(name);
         return false;
     }
     return toFile;
@@ -145,7 +141,7 @@ void CKTXMLGenerator::WriteOutput(FILE_TYPE type, CKTMarkup& markup,
             writer = std::make_unique<CKTCopybookWriter>(m_Found.passed, prefix, m_bCountIn);
             break;
         default:
-            WriteLine(std::cerr, {"Invalid File Type Selection for XML Output"});
+            Report<XmlgenMessage::NoFileType>();
             return;
     }
     if (!view.IsEmpty()) {

@@ -5,18 +5,19 @@
 
 #include <iostream>
 
-#include "support/Console.h"
 #include "support/Text.h"
+#include "xmlgen/Complaints.h"
 #include "xmlgen/Vocabularies.h"
 
 namespace {
 
 void ReportForeignNamespace(bool group, std::string_view uri) {
-    WriteLine(std::cerr, {"Warning : The generated schema requires an <import> ",
-                          group ? "for reference of" : "statement for the reference of",
-                          " definitions in the ", uri, " namespace."});
-    WriteLine(std::cerr, {"Warning : The generated schema is invalid for the XML instance document "
-                          "represented by the generated COBOL XD."});
+    if (group) {
+        Report<XmlgenMessage::ForeignGroup>(uri);
+    } else {
+        Report<XmlgenMessage::ForeignItem>(uri);
+    }
+    Report<XmlgenMessage::InvalidSchema>();
 }
 
 void ReportRange(const CKTXMLElement* range) {
@@ -25,11 +26,8 @@ void ReportRange(const CKTXMLElement* range) {
     if (name == nullptr) {
         return;
     }
-    WriteLine(std::cerr, {"Warning : Data range specifier \"", name->getValue(),
-                          "\" is not supported by DORVEX."});
-    WriteLine(std::cerr, {"Warning : Due to non-support of data range specifiers, enumerators will "
-                          "not be generated for the parent element of data-range \"",
-                          name->getValue(), "\""});
+    Report<XmlgenMessage::Range>(name->getValue());
+    Report<XmlgenMessage::NoEnumerators>(name->getValue());
 }
 
 /// A length counts as far as it begins with digits; a sign is none.
