@@ -1,5 +1,4 @@
-// A schema document: the lists of its declarations, and the files that it names. Included files are
-// read depth first, so that what an inner file declares comes before what the outer one does.
+// The lists of a schema document. Each is filled in one pass over the global declarations.
 
 #include "schema/KTXMLSchemaDoc.h"
 
@@ -8,59 +7,17 @@
 #include <utility>
 
 #include "schema/SchemaSet.h"
-#include "xml/Locations.h"
-#include "xml/Paths.h"
 
 namespace {
 
-/// Included global attributes are left behind on purpose.
-bool IsCarriedKind(const CKTXMLElement& e) {
-    switch (CKTXMLSchemaDoc::getElementType(&e)) {
-        case SchemaKind::Element:
-        case SchemaKind::AttributeGroup:
-        case SchemaKind::SimpleType:
-        case SchemaKind::Group:
-        case SchemaKind::ComplexType:
-            return true;
-        default:
-            return false;
-    }
-}
-
-/// Reads where `part` is to be found: a location elsewhere as written, any other as a file name.
-bool FindLocation(const CKTXMLElement* part, std::string& location) {
-    const std::string* written = AttributeValue(part, "schemaLocation");
-    if (written == nullptr) {
-        return false;
-    }
-    location = *written;
-    if (location.find("://") == std::string::npos) {
-        location = WithBlanks(location);
-    }
-    return true;
-}
-
-/// Gives a schema without a namespace of its own that of the one that includes it. Says whether it
-/// has none of its own.
-bool AdoptNamespace(CKTXMLElement* root, const std::string& uri) {
-    CKTXMLElement* schema = root->getFirstChildElem();
-    if (schema == nullptr || AttributeValue(schema, "targetNamespace") != nullptr) {
-        return false;
-    }
-    for (const char* name : {"targetNamespace", "xmlns"}) {
-        if (!uri.empty() && AttributeValue(schema, name) == nullptr) {
-            auto attribute = std::make_unique<CKTXMLAttribute>(name, uri);
-            attribute->setParent(schema);
-            schema->addAttribute(std::move(attribute));
-        }
-    }
-    return true;
-}
-
-template <typename Entry>
-void Append(std::vector<Entry>& list, const std::vector<Entry>& more) {
-    list.insert(list.end(), more.begin(), more.end());
-}
+constexpr std::array kListedTags = {
+    std::pair{"complexType", COMPLEX_TYPES},
+    std::pair{"simpleType", SIMPLE_TYPES},
+    std::pair{"group", GROUPS},
+    std::pair{"attributeGroup", ATTRIBUTE_GROUPS},
+    std::pair{"element", ELEMENTS},
+    std::pair{"attribute", ATTRIBUTES},
+};
 
 }  // namespace
 
@@ -72,212 +29,16 @@ CKTXMLSchemaDoc::CKTXMLSchemaDoc(CKTXMLElement* root, CKTXMLSchemaDoc* target, s
     }
     std::optional<CKTSchemaSet::CKTLoadGuard> loading;
     if (target == nullptr) {
-        m_Set.RegisterImport(m_sBaseFile, this);
-        loading.emplace(m_Set, m_sBaseFile);
+        m_Set.RegisterImport(m_Place.baseFile, this);
+        loading.emplace(m_Set, m_Place.baseFile);
     }
     PreProcessSchema(root, target == nullptr ? this : target);
 }
 
 CKTXMLSchemaDoc::CKTXMLSchemaDoc(CKTSchemaSet& set, CKTXMLSchemaDoc* owner, std::string location)
     : m_Set(set),
-      m_pOwner(owner),
       m_sSchemaLocation(std::move(location)),
-      m_sBaseFile(m_sSchemaLocation),
-      m_sOwnFile(m_sBaseFile) {}
-
-CKTXMLSchemaDoc* CKTXMLSchemaDoc::PreProcessSchema(CKTXMLElement* root, CKTXMLSchemaDoc* target) {
-    if (root == nullptr) {
-        return target;
-    }
-    ElementList parts;
-    root->findElement({}, compareElemForMultipartSchema, parts, true);
-    if (parts.empty()) {
-        return target;
-    }
-    CKTCarriedDeclarations carried;
-    for (CKTXMLElement* part : parts) {
-        ProcessPart(part, target, carried);
-    }
-    target->m_Brought.Append(carried.TakeAll(), m_pOwner);
-    if (target == this) {
-        TakeBroughtDeclarations();
-    }
-    InitializeElementLists();
-    return target;
-}
-
-void CKTXMLSchemaDoc::ProcessPart(CKTXMLElement* part, CKTXMLSchemaDoc* target,
-                                  CKTCarriedDeclarations& carried) {
-    const std::size_t before = target->m_Brought.size();
-    switch (getElementType(part)) {
-        case SchemaKind::Schema:
-            if (m_pSchemaElement == nullptr) {
-                m_pSchemaElement = part;
-                m_SchemaElementList.push_back(part);
-            }
-            break;
-        case SchemaKind::Import:
-            ProcessImport(part, target);
-            break;
-        case SchemaKind::Include:
-            ProcessInclude(part, target, carried);
-            break;
-        default:
-            ProcessInclude(part, target, carried);
-            ProcessRedefine(part, target, carried, before);
-            break;
-    }
-}
-
-/// Ends the loading of the main document: what the included files of the set have brought joins its
-/// tree.
-void CKTXMLSchemaDoc::TakeBroughtDeclarations() {
-    for (CKTBroughtDeclarations::Entry& entry : m_Brought.TakeAll()) {
-        if (entry.owner != this) {
-            entry.owner->m_IncludedList.push_back(entry.declaration.get());
-            m_ForeignDeclarations.insert(entry.declaration.get());
-        }
-        if (m_pSchemaElement != nullptr) {
-            m_pSchemaElement->addChildElement(std::move(entry.declaration));
-        } else {
-            m_Set.Keep(std::move(entry.declaration));
-        }
-    }
-}
-
-void CKTXMLSchemaDoc::ProcessImport(const CKTXMLElement* import, CKTXMLSchemaDoc* target) {
-    std::string location;
-    const std::string* uri = AttributeValue(import, "namespace");
-    if (!FindLocation(import, location) || uri == nullptr) {
-        return;
-    }
-    CKTXMLSchemaDoc* doc = LoadImport(ImportPath(location, target), target);
-    if (doc == nullptr) {
-        return;
-    }
-    target->m_NamespaceSchemaPairs.push_back(
-        m_Set.Keep(std::make_unique<CKTXMLNamespaceSchemaPair>(*uri, doc)));
-}
-
-/// A location counts from the working directory; one that leads nowhere from there counts from the
-/// place of the document that it is written in, unless that is the main file.
-std::string CKTXMLSchemaDoc::ImportPath(const std::string& location,
-                                        const CKTXMLSchemaDoc* target) const {
-    const bool isElsewhere = IsLocation(m_sOwnFile);
-    const bool inMainFile = this == target && !isElsewhere;
-    if (inMainFile || IsLocation(location) || (!IsRelativePath(location) && !isElsewhere) ||
-        m_Set.Exists(location)) {
-        return location;
-    }
-    return OpenedLocation(location, m_sOwnFile);
-}
-
-/// A location counts from the place of the document that it is written in. One that is included by
-/// a URL has the place of the document that includes it, and its own for what is not there.
-std::string CKTXMLSchemaDoc::IncludePath(const std::string& location) const {
-    if (IsLocation(location)) {
-        return location;
-    }
-    std::string path = IsRelativePath(location) ? WeavePaths(m_sBaseFile, location) : location;
-    const bool hasOnePlace = m_sOwnFile == m_sBaseFile && !IsLocation(m_sOwnFile);
-    return hasOnePlace || m_Set.Exists(path) ? path : OpenedLocation(location, m_sOwnFile);
-}
-
-CKTXMLSchemaDoc* CKTXMLSchemaDoc::LoadImport(const std::string& fileName, CKTXMLSchemaDoc* target) {
-    CKTXMLSchemaDoc* known = nullptr;
-    if (m_Set.FindImport(fileName, known)) {
-        return known;
-    }
-    m_Set.RegisterImport(fileName, nullptr);
-    CKTXMLElement* root = m_Set.Load(fileName);
-    if (root == nullptr) {
-        return nullptr;
-    }
-    CKTXMLSchemaDoc* doc = m_Set.Keep(std::make_unique<CKTXMLSchemaDoc>(m_Set));
-    doc->m_sBaseFile = OpenedLocation(fileName);
-    doc->m_sOwnFile = doc->m_sBaseFile;
-    m_Set.RegisterImport(fileName, doc);
-    const CKTSchemaSet::CKTLoadGuard loading(m_Set, fileName);
-    doc->PreProcessSchema(root, target);
-    return doc;
-}
-
-void CKTXMLSchemaDoc::ProcessInclude(const CKTXMLElement* include, CKTXMLSchemaDoc* target,
-                                     CKTCarriedDeclarations& carried) {
-    std::string location;
-    if (!FindLocation(include, location)) {
-        return;
-    }
-    const std::string fileName = IncludePath(location);
-    const std::string uri = OwnNamespace();
-    if (!m_Set.BeginInclude(fileName, uri)) {
-        return;
-    }
-    CKTXMLElement* root = m_Set.Load(fileName);
-    if (root == nullptr) {
-        return;
-    }
-    if (AdoptNamespace(root, uri)) {
-        m_Set.NoteAdoption(fileName);
-    }
-    CKTXMLSchemaDoc included(m_Set, m_pOwner, IsLocation(location) ? m_sBaseFile : fileName);
-    if (IsLocation(location)) {
-        included.m_sOwnFile = OpenedLocation(location);
-    }
-    included.PreProcessSchema(root, target);
-    included.MergeInto(target);
-    if (included.m_pSchemaElement == nullptr) {
-        return;
-    }
-    for (auto& declaration : included.m_pSchemaElement->takeChildElements(IsCarriedKind)) {
-        carried.Add(std::move(declaration));
-    }
-}
-
-/// The namespace that this document's schema element writes or has adopted.
-std::string CKTXMLSchemaDoc::OwnNamespace() const {
-    const std::string* uri =
-        m_pSchemaElement == nullptr ? nullptr : AttributeValue(m_pSchemaElement, "targetNamespace");
-    return uri == nullptr ? std::string() : *uri;
-}
-
-/// Puts each redefinition in the place of what it redefines: a declaration of the redefined file,
-/// or one that its own includes have brought since the place `from`.
-void CKTXMLSchemaDoc::ProcessRedefine(CKTXMLElement* redefine, CKTXMLSchemaDoc* target,
-                                      CKTCarriedDeclarations& carried, std::size_t from) {
-    std::vector<std::optional<std::size_t>> places;
-    auto redefinitions = redefine->takeChildElements([&](const CKTXMLElement& child) {
-        const std::string* name = AttributeValue(&child, "name");
-        if (name == nullptr || name->empty()) {
-            return false;
-        }
-        std::unique_ptr<CKTXMLElement> replaced = carried.TakeFirst(*name);
-        std::optional<std::size_t> place;
-        if (replaced == nullptr) {
-            place = target->m_Brought.Find(getElementType(&child), *name, from);
-            if (!place || target->m_Brought.At(*place).declaration == nullptr) {
-                return false;
-            }
-            replaced = std::move(target->m_Brought.At(*place).declaration);
-        }
-        places.push_back(place);
-        target->m_RedefinedList.push_back(replaced.get());
-        target->m_Replaced[&child] = m_Set.Keep(std::move(replaced));
-        return true;
-    });
-    for (std::size_t i = 0; i < redefinitions.size(); ++i) {
-        if (places[i]) {
-            target->m_Brought.At(*places[i]).declaration = std::move(redefinitions[i]);
-        } else {
-            carried.Add(std::move(redefinitions[i]));
-        }
-    }
-}
-
-void CKTXMLSchemaDoc::MergeInto(CKTXMLSchemaDoc* target) const {
-    Append(target->m_SchemaElementList, m_SchemaElementList);
-    Append(target->m_NamespaceDeclList, m_NamespaceDeclList);
-}
+      m_Place{owner, m_sSchemaLocation, m_sSchemaLocation} {}
 
 bool CKTXMLSchemaDoc::InitializeElementLists() {
     if (m_pSchemaElement == nullptr || m_pSchemaElement->getFirstChildElem() == nullptr) {
@@ -293,42 +54,19 @@ bool CKTXMLSchemaDoc::InitializeElementLists() {
         }
     }
     CKTXMLElement* first = m_pSchemaElement->getFirstChildElem();
-    const std::array<std::pair<const char*, ElementList*>, 6> lists = {
-        {{"complexType", &m_ComplexTypeList},
-         {"simpleType", &m_SimpleTypeList},
-         {"group", &m_GroupList},
-         {"attributeGroup", &m_AttributeGroupList},
-         {"element", &m_ElementList},
-         {"attribute", &m_AttributeList}}};
-    for (const auto& [name, list] : lists) {
-        first->findElement(name, compareElemByName, *list, false);
+    for (const auto& [name, list] : kListedTags) {
+        first->findElement(name, compareElemByName, ListOf(list), false);
     }
-    first->findElement("substitutionGroup", compareElemByAttrType, m_SubstitutionGroupList, false);
-    for (CKTXMLElement* element : m_ElementList) {
+    first->findElement("substitutionGroup", compareElemByAttrType, ListOf(SUBSTITUTION_MEMBERS),
+                       false);
+    for (CKTXMLElement* element : ListOf(ELEMENTS)) {
         element->setNamespace(m_sTargetNamespace);
     }
     return true;
 }
 
 const CKTXMLSchemaDoc::ElementList& CKTXMLSchemaDoc::getList(DeclarationList list) const {
-    switch (list) {
-        case COMPLEX_TYPES:
-            return m_ComplexTypeList;
-        case SIMPLE_TYPES:
-            return m_SimpleTypeList;
-        case ELEMENTS:
-            return m_ElementList;
-        case ATTRIBUTES:
-            return m_AttributeList;
-        case GROUPS:
-            return m_GroupList;
-        case ATTRIBUTE_GROUPS:
-            return m_AttributeGroupList;
-        case SUBSTITUTION_MEMBERS:
-            return m_SubstitutionGroupList;
-        default:
-            return m_RedefinedList;
-    }
+    return m_Lists.at(static_cast<std::size_t>(list) - COMPLEX_TYPES);
 }
 
 CKTXMLSchemaDoc::ElementList CKTXMLSchemaDoc::OwnDeclarations() const {
@@ -341,7 +79,7 @@ CKTXMLSchemaDoc::ElementList CKTXMLSchemaDoc::OwnDeclarations() const {
             }
         }
     }
-    Append(own, m_IncludedList);
+    own.insert(own.end(), m_IncludedList.begin(), m_IncludedList.end());
     return own;
 }
 

@@ -1,6 +1,7 @@
 #ifndef DORVEX_SCHEMA_KTXMLSCHEMADOC_H
 #define DORVEX_SCHEMA_KTXMLSCHEMADOC_H
 
+#include <array>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -84,6 +85,13 @@ public:
     [[nodiscard]] const std::string& getSchemaLocation() const { return m_sSchemaLocation; }
 
 private:
+    /// Where a document counts: whose it is, and from where its relative locations count.
+    struct Place {
+        CKTXMLSchemaDoc* owner;  ///< the main or imported document that it is included in
+        std::string baseFile;    ///< the place of its file; of imported documents too
+        std::string ownFile;     ///< what was opened for it, where that is another place
+    };
+
     CKTXMLSchemaDoc(CKTSchemaSet& set, CKTXMLSchemaDoc* owner, std::string location);
 
     void ProcessPart(CKTXMLElement* part, CKTXMLSchemaDoc* target, CKTCarriedDeclarations& carried);
@@ -100,25 +108,19 @@ private:
     void TakeBroughtDeclarations();
     void MergeInto(CKTXMLSchemaDoc* target) const;
 
+    ElementList& ListOf(DeclarationList list) {
+        return m_Lists.at(static_cast<std::size_t>(list) - COMPLEX_TYPES);
+    }
+
     CKTSchemaSet& m_Set;
-    CKTXMLSchemaDoc* m_pOwner;  ///< the main or imported document that this one is included in
-    ElementList m_ComplexTypeList;
-    ElementList m_SimpleTypeList;
-    ElementList m_ElementList;
-    ElementList m_AttributeList;
-    ElementList m_GroupList;
-    ElementList m_AttributeGroupList;
-    ElementList m_SubstitutionGroupList;
-    ElementList m_RedefinedList;
+    std::array<ElementList, REDEFINED - COMPLEX_TYPES + 1> m_Lists;  ///< as DeclarationList counts
     std::vector<CKTXMLAttribute*> m_NamespaceDeclList;
     std::vector<CKTXMLNamespaceSchemaPair*> m_NamespaceSchemaPairs;
     ElementList m_SchemaElementList;
     CKTXMLElement* m_pSchemaElement = nullptr;
     std::string m_sTargetNamespace;
     std::string m_sSchemaLocation;
-    std::string
-        m_sBaseFile;         ///< what relative locations count from; set for imported documents too
-    std::string m_sOwnFile;  ///< what was opened for this document, where that is another place
+    Place m_Place;
     std::unordered_map<const CKTXMLElement*, CKTXMLElement*> m_Replaced;
     CKTBroughtDeclarations m_Brought;  ///< while the main document is loaded
     ElementList m_IncludedList;        ///< brought into the main document by includes of this one
