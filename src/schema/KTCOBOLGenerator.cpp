@@ -25,8 +25,8 @@ void ReportExcess(CKTRecordTree::Excess excess, std::string_view record) {
 
 }  // namespace
 
-bool CKTCOBOLGenerator::GenerateFile(const std::string& outputName, const std::string& writerText,
-                                     bool writerFlag1, bool writerFlag2) {
+bool CKTCOBOLGenerator::GenerateFile(const std::string& outputName, const std::string& prefix,
+                                     bool countIn, bool uniqueNames) {
     if (outputName.empty()) {
         Report<SchemaMessage::NoFileName>();
     }
@@ -39,7 +39,7 @@ bool CKTCOBOLGenerator::GenerateFile(const std::string& outputName, const std::s
     } else {
         CKTXMLElement* schema = m_pDocument->getSchemaElement();
         GeneratorState().currentSchemaElement = schema;
-        m_Writer = {writerText, writerFlag1, writerFlag2};
+        m_Writer = {prefix, countIn, uniqueNames};
         CKTCOBOLRecordItem* current = nullptr;
         getCOBOLFromSchema(schema, kFirstLevel, kFirstIndent, &current);
         std::cerr << "\n";
