@@ -1,6 +1,8 @@
 // The three forms of a text. An own copy is one block, its length before the characters. Addresses
 // are kept as bytes, so their two lowest bits, which alignment leaves free, can tell the forms
-// apart.
+// apart. Short texts, most data names and sizes, need no block at all, and texts of the schema are
+// shared, since the schema outlives its records. A record of a million items is why this is worth
+// the trouble.
 
 #include "cobol/ItemText.h"
 
@@ -32,6 +34,7 @@ CKTItemText& CKTItemText::operator=(const CKTItemText& other) {
     if (this == &other) {
         return *this;
     }
+    // Only an own copy has a second block; the other two forms are copied as they are.
     if ((other.Tag() & kOwnMark) != 0 && (other.Tag() & kShortMark) == 0) {
         return *this = other.View();
     }
@@ -109,6 +112,7 @@ char* CKTItemText::MakeRoom(std::size_t length) {
     char* block = std::allocator<char>().allocate(sizeof(Length) + length);
     const auto stored = static_cast<Length>(length);
     std::memcpy(block, &stored, sizeof stored);
+    // The lowest bits of the address are free and tell that the block is owned.
     const char* marked = block + kOwnMark;
     std::memcpy(m_Bytes.data(), &marked, kSize);
     return block + sizeof stored;

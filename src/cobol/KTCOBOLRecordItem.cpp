@@ -1,4 +1,6 @@
 // Which items can be written, the names of an item, and the stated entry points to the writer.
+// Validity is a property of the item and its children alone, so it can be asked as often as it
+// takes; only the warning is remembered, to be given once.
 
 #include "cobol/KTCOBOLRecordItem.h"
 
@@ -15,6 +17,7 @@ CKTCOBOLRecordItem::Form CKTCOBOLRecordItem::FormOf() const {
     if (m_nLevel < 0 || m_sMinOccurs.empty()) {
         return Form::Unusable;
     }
+    // A condition without a value says nothing and is no item.
     if (IsCondition() && !m_sDataName.empty() && !m_sValue.empty()) {
         return Form::Complete;
     }
@@ -22,6 +25,7 @@ CKTCOBOLRecordItem::Form CKTCOBOLRecordItem::FormOf() const {
         return Form::Unusable;
     }
     const bool hasPicture = !m_sPicType.empty();
+    // Of the usages only floating point stands without a picture.
     if ((hasPicture && !m_sPicLength.empty()) ||
         (!hasPicture && (m_sUsage == "COMP-1" || m_sUsage == "COMP-2"))) {
         return Form::Complete;
@@ -72,11 +76,13 @@ void CKTCOBOLRecordItem::AppendPictureClause(std::string& line) const {
     const long long fraction = ReadInteger(m_sFractionDigits);
     const bool decimals = m_bHasFraction && fraction > 0;
     line += " PIC ";
+    // With all digits behind the point nothing stands before it but a sign.
     if (m_nDigits == -1 || m_nDigits > fraction || !decimals) {
         line += m_sPicType;
         line += '(';
         if (m_nDigits == -1) {
             const std::string_view size = PlainNumber(m_sPicLength);
+            // No compiler takes a picture of no characters.
             line += size == "0" ? "1" : size;
         } else {
             line += std::to_string(std::max(m_nDigits - fraction, 1LL));
@@ -107,6 +113,7 @@ bool CKTCOBOLRecordItem::OutputCOBOLItem(CKTCOBOLRecordItem* item, const std::st
 void CKTCOBOLRecordItem::OutputFixedFormatCOBOL(const char* line, std::ostream& out) {
     std::string entry;
     LayOutEntry(line, entry);
+    // Text for a stream that has failed goes to standard output.
     std::ostream& target = out.fail() ? std::cout : out;
     target.write(entry.data(), static_cast<std::streamsize>(entry.size()));
 }

@@ -1,6 +1,8 @@
 // Each entry is built as one free-form line, clause by clause in their order, and then laid out in
 // fixed format. Items are judged as they are reached, because a judgement may be a message; a group
-// is valid through one of its children, so that child is not judged a second time.
+// is valid through one of its children, so that child is not judged a second time. Text is gathered
+// and handed over in large pieces, but always before a message, so that both keep their order on a
+// console.
 
 #include "cobol/RecordWriter.h"
 
@@ -28,10 +30,12 @@ CKTRecordWriter::CKTRecordWriter(std::string_view prefix, bool countIn, CKTUniqu
 bool CKTRecordWriter::Write(CKTCOBOLRecordItem& item) {
     if (!IsValid(item)) {
         if (m_pNames != nullptr) {
+            // What is below an item that is left out has used its names up all the same.
             m_pNames->AddBelow(item);
         }
         return false;
     }
+    // Used up: whoever asks again later has to look again.
     item.m_bFoundValid = false;
     if (m_pNames != nullptr) {
         m_pNames->MakeUnique(item);
@@ -55,6 +59,7 @@ bool CKTRecordWriter::IsValid(CKTCOBOLRecordItem& item) {
         return true;
     }
     const Form form = item.FormOf();
+    // An unusable item is left out without a word.
     if (form == Form::Complete || form == Form::Unusable) {
         return form == Form::Complete;
     }
@@ -72,6 +77,7 @@ bool CKTRecordWriter::IsValid(CKTCOBOLRecordItem& item) {
 }
 
 void CKTRecordWriter::BuildLine(const CKTCOBOLRecordItem& item) {
+    // The layout turns the blanks into the column of the entry.
     m_sLine.assign(static_cast<std::size_t>(std::max(item.m_nDepth, 0)), ' ');
     m_sLine += item.m_nLevel <= 9 ? "0" : "";
     m_sLine += std::to_string(item.m_nLevel);
@@ -90,6 +96,7 @@ void CKTRecordWriter::BuildLine(const CKTCOBOLRecordItem& item) {
         m_sLine += item.m_sUsage;
     }
     const std::string_view maximum = PlainNumber(item.m_sMaxOccurs);
+    // COBOL needs a number; an unbounded item is written once.
     if (!maximum.empty() && maximum != "1" && maximum != "unbounded") {
         m_sLine += " occurs ";
         m_sLine += maximum;
@@ -102,6 +109,7 @@ void CKTRecordWriter::BuildLine(const CKTCOBOLRecordItem& item) {
 void CKTRecordWriter::AppendCondition(std::string_view value) {
     m_sLine += " value is \"";
     for (const char c : value) {
+        // A doubled mark keeps the literal one.
         m_sLine.append(c == '"' ? 2 : 1, c);
     }
     m_sLine += '"';
@@ -125,6 +133,7 @@ void CKTRecordWriter::AppendXmlClauses(const CKTCOBOLRecordItem& item) {
         m_sLine += '"';
     }
     if (!item.m_sNamespace.empty() &&
+        // A namespace holds for what is below, until another one is written.
         (item.m_pParent == nullptr || !(item.m_pParent->m_sNamespace == item.m_sNamespace))) {
         m_sLine += kNamespaceIs;
         m_sLine += item.m_sNamespace;

@@ -25,6 +25,7 @@ bool CKTCOBOLRecordItem::IsValidCOBOLItem() {
 
 bool CKTCOBOLRecordItem::FindRecordItemByName(CKTCOBOLRecordItem* searchIn,
                                               const CKTCOBOLRecordItem* item, bool& reached) {
+    // The names of the items before this one count, those behind it do not.
     if (!reached && searchIn == item) {
         reached = true;
         return true;

@@ -1,5 +1,7 @@
 // Names are collected in the order in which the record is written; views into the items do for
-// them, because an item is renamed before its name is taken and never again.
+// them, because an item is renamed before its name is taken and never again. Case does not count in
+// COBOL, so it is folded for the letters that a data name can have. Numbers are tried from the last
+// one that the name was given.
 
 #include "cobol/UniqueNames.h"
 
@@ -35,6 +37,7 @@ CKTUniqueNames::CKTUniqueNames(const CKTCOBOLRecordItem& first) {
     while (top->m_pParent != nullptr) {
         top = top->m_pParent;
     }
+    // The record is not renamed itself, but nothing below it may have its name.
     m_Used.insert(top->m_sDataName);
     AddBefore(*top, first);
 }
@@ -58,6 +61,7 @@ bool CKTUniqueNames::AddBefore(const CKTCOBOLRecordItem& searchIn, const CKTCOBO
 }
 
 void CKTUniqueNames::MakeUnique(CKTCOBOLRecordItem& item) {
+    // The record keeps its name, which is taken already.
     if (item.m_pParent == nullptr) {
         return;
     }
@@ -70,6 +74,7 @@ void CKTUniqueNames::MakeUnique(CKTCOBOLRecordItem& item) {
             item.m_sDataName.Assign(base, "-" + std::to_string(number));
         } while (m_Used.contains(item.m_sDataName));
         if (!item.m_sCountInName.empty()) {
+            // The counter of the item is named after it.
             item.m_sCountInName.Assign(item.m_sDataName, "-count");
         }
     }

@@ -1,5 +1,7 @@
 // Declarations on their way from included files into the main schema. They wait here until the
-// whole set is read, since a redefinition may still replace one that an inner file brought.
+// whole set is read, since a redefinition may still replace one that an inner file brought. Both
+// kinds of list keep their order and find a name in one step; the places that were emptied are
+// passed over when all is taken.
 
 #include "schema/BroughtDeclarations.h"
 
@@ -50,6 +52,7 @@ std::optional<std::size_t> CKTBroughtDeclarations::Find(SchemaKind kind, const s
     if (found == m_Places.end()) {
         return std::nullopt;
     }
+    // Places of a key are in rising order, because entries are only appended.
     const auto place = std::lower_bound(found->second.begin(), found->second.end(), from);
     return place == found->second.end() ? std::nullopt : std::optional(*place);
 }

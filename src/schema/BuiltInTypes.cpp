@@ -1,4 +1,7 @@
-// The types of XML Schema that have a COBOL form: one table, found through an index by name.
+// The types of XML Schema that have a COBOL form: one table, found through an index by name. Open
+// types and list types are not in it: what becomes of them is decided where they are used. A
+// picture without a size of its own gets one that holds the usual values: 80 characters, 18 digits,
+// 9 digits before a decimal point.
 
 #include "schema/BuiltInTypes.h"
 
@@ -10,6 +13,7 @@
 
 namespace {
 
+// Drafts of the language have another year in their namespace and are taken for it.
 constexpr std::string_view kSchemaHost = "http://www.w3.org";
 
 constexpr BuiltInForm Text(std::string_view type) {
@@ -103,11 +107,13 @@ void ApplyBuiltIn(CKTCOBOLRecordItem& item, const BuiltInForm& form) {
     if (!form.usage.empty()) {
         item.m_sUsage = form.usage;
     }
+    // Once decimal, always decimal: a base may be asked twice.
     item.m_bHasFraction = item.m_bHasFraction || form.isDecimal;
 }
 
 void TakeBuiltIn(CKTCOBOLRecordItem& item, const BuiltInForm& form) {
     ApplyBuiltIn(item, form);
+    // A length that a facet has set is not undone by the type that it narrows.
     if (item.m_sPicLength.empty()) {
         item.m_sPicLength = item.m_sPicType == "X" ? "80" : item.m_bHasFraction ? "9" : "18";
     }

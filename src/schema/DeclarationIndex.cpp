@@ -1,5 +1,7 @@
 // Names to declarations, built once. The maps are filled in the order in which a search would look,
-// and the first entry of a name stays.
+// and the first entry of a name stays. Three sorts of maps answer for the three cases: a namespace
+// with a document or declarations of its own, the target namespace of the main document, and no
+// namespace at all.
 
 #include "schema/DeclarationIndex.h"
 
@@ -37,6 +39,7 @@ CKTDeclarationIndex::CKTDeclarationIndex(const CKTXMLSchemaDoc& main,
     : m_Main(main) {
     std::set<std::pair<std::string, const CKTXMLSchemaDoc*>> seen;
     for (const CKTXMLNamespaceSchemaPair* pair : main.getNamespaceSchemaPairs()) {
+        // A document that was imported twice under one name adds nothing the second time.
         if (seen.emplace(pair->getNamespaceURI(), pair->getSchemaDoc()).second) {
             AddAll(m_NamespaceMaps[pair->getNamespaceURI()], *pair->getSchemaDoc());
         }
@@ -44,6 +47,7 @@ CKTDeclarationIndex::CKTDeclarationIndex(const CKTXMLSchemaDoc& main,
     AddAll(m_MainMaps, main);
     ListMaps ofMainNamespace;
     ForEachDeclaration(main, [&](std::size_t list, std::string_view name, CKTXMLElement* e) {
+        // What an imported schema includes lies in the main tree and is found by its own namespace.
         const std::string_view uri = NamespaceOf(e, defaultNamespace);
         m_NamespaceMaps[std::string(uri)].at(list).try_emplace(name, e);
         if (uri == main.getTargetNamespace()) {
@@ -54,6 +58,8 @@ CKTDeclarationIndex::CKTDeclarationIndex(const CKTXMLSchemaDoc& main,
         }
     });
     for (std::size_t list = 0; list < m_MainMaps.size(); ++list) {
+        // Insertion leaves the first entry of a name alone, so the order of these lines is the
+        // order of the search.
         m_UnqualifiedMaps[list].insert(ofMainNamespace[list].begin(), ofMainNamespace[list].end());
         m_UnqualifiedMaps[list].insert(m_MainMaps[list].begin(), m_MainMaps[list].end());
     }

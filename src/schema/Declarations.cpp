@@ -1,6 +1,8 @@
 // Element and attribute declarations: where record items are born. A declaration makes its item,
 // fills it with what it says itself, and then takes its content from a reference, a named type or
-// what stands below it. What a reference leads to fills the item of the reference.
+// what stands below it. What a reference leads to fills the item of the reference. Occurrence is
+// the exception: it stays that of the reference. A declaration that fails takes its item out again
+// at once, so that nothing half made is ever written.
 
 #include <array>
 #include <string>
@@ -68,6 +70,9 @@ WrittenDeclaration::WrittenDeclaration(const CKTXMLElement* declaration) {
 
 /// Says whether `target`, which the declaration of `item` refers to or has as its complex type
 /// (null for neither), is being converted above `item`.
+// The search climbs the items and not the schema: a type may be used twice side by side, and only
+// an item that stands in itself has no end. Attributes are never asked, they have no content to
+// recur in.
 bool isRecursivePattern(const CKTCOBOLRecordItem& item, const CKTXMLElement* target) {
     if (target == nullptr) {
         return false;
@@ -104,6 +109,7 @@ CKTCOBOLRecordItem* MakeDeclaredItem(CKTRecordTree& records, const DeclarationTr
 void FillFromDeclaration(CKTNameResolver& resolver, const CKTXMLElement* declaration,
                          const WrittenDeclaration& written, CKTCOBOLRecordItem& item) {
     item.m_pSchemaElement = declaration;
+    // A reference has been filled before, and its own default does not count.
     item.m_sValue = std::string_view();
     if (written.defaultValue != nullptr) {
         item.m_sValue.Share(*written.defaultValue);
@@ -113,6 +119,7 @@ void FillFromDeclaration(CKTNameResolver& resolver, const CKTXMLElement* declara
     const DeclaredNames& names = resolver.NamesOf(declaration, written.name);
     if (written.name != nullptr) {
         item.m_sXMLName.Share(*written.name);
+        // Shared with every other item of the declaration, which outlives the record.
         item.m_sDataName.Share(names.dataName);
         item.m_sCountInName.Share(names.countInName);
     }
@@ -130,6 +137,7 @@ Answer TakeReference(CKTWalk& walk, const CKTXMLElement* declaration, const std:
         Report<SchemaMessage::Recursion>(ref);
         return Answer::Nothing;
     }
+    // The next declaration that is walked fills this item instead of making one.
     open.isReference = true;
     return walk.Walk(target, open);
 }
@@ -150,6 +158,8 @@ Answer TakeNamedType(CKTWalk& walk, const CKTXMLElement* declaration, const std:
         Report<SchemaMessage::Recursion>(type);
         return Answer::Nothing;
     }
+    // Remembers the type for this item, so that a derivation of it further below finds its way
+    // back.
     const CKTActiveGuard active(walk.TypesWalked(), CKTWalk::ActiveType(open.item, definition));
     return WithoutNothing(walk.Walk(definition, open));
 }
@@ -166,6 +176,7 @@ Answer TakeContent(CKTWalk& walk, const CKTXMLElement* declaration, const Declar
         return TakeReference(walk, declaration, *written.ref, traits, open);
     }
     if (!traits.IsAttribute() && elementHasSubGroup(walk.Names(), *open.item)) {
+        // The head is converted all the same; its members are not looked for.
         Report<SchemaMessage::SubstitutionGroup>();
     }
     return written.type != nullptr ? TakeNamedType(walk, declaration, *written.type, traits, open)
@@ -175,6 +186,8 @@ Answer TakeContent(CKTWalk& walk, const CKTXMLElement* declaration, const Declar
 Answer TakeDeclaration(CKTWalk& walk, const CKTXMLElement* declaration,
                        const DeclarationTraits& traits, const WrittenDeclaration& written,
                        OpenItem& around) {
+    // An element behind an attribute reference, or the other way round, is a declaration of its
+    // own.
     if (around.isReference &&
         GeneratorKindOf(around.item->m_pSchemaElement->getName()) == traits.kind) {
         around.isReference = false;
@@ -188,6 +201,7 @@ Answer TakeDeclaration(CKTWalk& walk, const CKTXMLElement* declaration,
     FillFromDeclaration(walk.Names(), declaration, written, *own.item);
     const Answer content = TakeContent(walk, declaration, traits, written, own);
     if (content == Answer::Nothing) {
+        // Also an item that has children: what failed may not be written in part.
         walk.Records().Remove(*own.item);
     }
     return content == Answer::ItemGone ? Answer::Nothing : content;
@@ -198,6 +212,7 @@ Answer TakeDeclaration(CKTWalk& walk, const CKTXMLElement* declaration,
 Answer TakeElement(CKTWalk& walk, CKTXMLElement* element, OpenItem& around) {
     const WrittenDeclaration written(element);
     if (IsNever(written.maxOccurs)) {
+        // It stands for nothing, which is no failure unless it is the head itself.
         return around.item == nullptr ? Answer::Nothing : Answer::Made;
     }
     return TakeDeclaration(walk, element, kElement, written, around);

@@ -1,6 +1,9 @@
 // Derivation by restriction and extension. The base is walked into the same item, so that what the
 // derivation itself says comes after it; a simple value is instead followed down to its built-in
-// type, and the facets are applied on the way back.
+// type, and the facets are applied on the way back. Conditions and attributes of the base come
+// along when the base is walked; on the way down to a value they do not, because the derivation
+// says them anew. A base that is named but found nowhere is reported once, and the content of the
+// derivation is still taken.
 
 #include <vector>
 
@@ -39,6 +42,7 @@ const CKTXMLElement* FindValueDerivation(const CKTXMLElement* type) {
     if (holder == nullptr) {
         return nullptr;
     }
+    // There is one of the two at most.
     const CKTXMLElement* restriction = FindChild(holder, GeneratorKind::Restriction);
     return restriction != nullptr ? restriction : FindChild(holder, GeneratorKind::Extension);
 }
@@ -50,6 +54,7 @@ public:
         : m_Walk(walk), m_pOuterBase(walk.SimpleBase()) {
         const GeneratorKind above = KindAbove(derivation);
         if (above == GeneratorKind::SimpleContent) {
+            // By this name a list is reported, when one turns up at the end of the chain.
             walk.SetSimpleBase(AttributeValue(derivation, "base"));
             open.isSimpleContent = true;
         } else if (above == GeneratorKind::ComplexContent) {
@@ -82,12 +87,14 @@ public:
                 }
                 return;
             }
+            // A chain may lead back to itself; then the bounds of the record end it.
             if (!m_Walk.CountVisit(m_Steps.size() + 1)) {
                 return;
             }
             m_Steps.push_back(step);
             type = TypeBelow(step);
         }
+        // From the built-in type outwards: a later facet narrows an earlier one.
         for (auto step = m_Steps.rbegin(); m_bConverted && step != m_Steps.rend(); ++step) {
             if (KindOf(*step) == GeneratorKind::Restriction) {
                 ApplyValueFacets(m_Open, **step);
@@ -99,6 +106,7 @@ private:
     /// The type that `step` derives from; null for one of XML Schema or none.
     const CKTXMLElement* TypeBelow(const CKTXMLElement* step) {
         const std::string* base = AttributeValue(step, "base");
+        // The innermost one that writes a base gives the list its name.
         if (KindAbove(step) == GeneratorKind::SimpleContent) {
             m_pSimpleBase = base;
         }
@@ -126,6 +134,7 @@ private:
 };
 
 Answer WalkBaseType(CKTWalk& walk, CKTXMLElement* type, const std::string& name, OpenItem& open) {
+    // Once for each item: two items may derive from one base at the same time.
     const CKTActiveGuard active(walk.TypesWalked(), CKTWalk::ActiveType(open.item, type));
     if (!active.IsFirst()) {
         Report<SchemaMessage::Recursion>(name);
@@ -142,6 +151,7 @@ Answer RestrictOwnContent(CKTWalk& walk, const CKTXMLElement* restriction, OpenI
     if (answer != Answer::ItemGone) {
         walk.TakeFacets(open, *restriction);
     }
+    // Attributes, and model groups of a complex restriction; facets yield nothing here.
     for (CKTXMLElement* child = restriction->getFirstChildElem();
          child != nullptr && answer != Answer::ItemGone && !walk.Records().IsGivenUp();
          child = child->getNextSibling()) {
@@ -154,6 +164,8 @@ Answer RestrictOwnContent(CKTWalk& walk, const CKTXMLElement* restriction, OpenI
 
 Answer RestrictNamedType(CKTWalk& walk, const CKTXMLElement* restriction, CKTXMLElement* base,
                          const std::string& name, OpenItem& open) {
+    // What a restriction of a complex type holds is the whole of its content. Only without content
+    // of its own, or above a simple base, is the base walked.
     const CKTXMLElement* first = restriction->getFirstChildElem();
     const bool complexBase = KindOf(base) == GeneratorKind::ComplexType;
     if (first != nullptr && (complexBase || KindOf(first) == GeneratorKind::SimpleType)) {
@@ -186,6 +198,7 @@ Answer TakeRestriction(CKTWalk& walk, const CKTXMLElement* restriction, OpenItem
     }
     if (names.IsListType(restriction, *base)) {
         open.NoteList(walk.SimpleBase());
+        // Nothing is to be found below a type that leaves everything open, and nothing is wrong.
     } else if (!names.IsOpenType(restriction, *base)) {
         if (meaning.declaration != nullptr) {
             return RestrictNamedType(walk, restriction, meaning.declaration, *base, open);

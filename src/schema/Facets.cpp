@@ -1,6 +1,8 @@
 // Facets: lengths and digits become the picture, enumerations become condition names. A condition
 // name is numbered by the children that a search for its value passes, so the search is kept up by
-// count, and done by look-up only until the values of a restriction are known to differ.
+// count, and done by look-up only until the values of a restriction are known to differ. Facets act
+// where the picture is: on the item, or on the child that its value has moved to. What COBOL cannot
+// express, patterns and ranges, is said once for each facet and changes nothing.
 
 #include "schema/Facets.h"
 
@@ -45,6 +47,8 @@ public:
     CKTConditionList(OpenItem& open, const CKTXMLElement& restriction, CKTRecordTree& records,
                      DistinctEnumerations& distinct)
         : m_Item(*open.item), m_pRestriction(&restriction), m_Records(records), m_Known(distinct) {
+        // A derived enumeration replaces the inherited one. Facets that are read from a type
+        // definition itself add to what is there.
         if (GeneratorKindOf(restriction.getName()) == GeneratorKind::Restriction) {
             std::erase_if(m_Item.m_Children,
                           [](const auto& child) { return child->IsCondition(); });
@@ -81,6 +85,7 @@ public:
             ShareName(condition->m_sDataName, m_nPassed + place);
             condition->m_sValue.Share(value);
         }
+        // The next search begins at the front again.
         m_nPassed = 0;
     }
 
@@ -121,6 +126,7 @@ void ApplyToPicture(CKTCOBOLRecordItem& holder, FacetKind kind, const std::strin
             ApplySize(holder, kind, value);
             break;
         case FacetKind::TotalDigits:
+            // Read as a number of any size; the picture has room for as many as an int has.
             holder.m_nDigits =
                 static_cast<int>(std::clamp<long long>(ReadInteger(value), INT_MIN, INT_MAX));
             break;
@@ -182,6 +188,8 @@ void ApplyFacets(OpenItem& open, const CKTXMLElement& restriction, CKTRecordTree
             conditions.emplace(open, restriction, records, distinct);
         }
         conditions->Add(*value);
+        // The value moves when the enumeration is the last thing in its restriction, and goes
+        // behind the conditions, which stay those of the item.
         if (facet->getNextSibling() == nullptr && open.item->HasValue()) {
             records.MoveValue(open, false);
         }

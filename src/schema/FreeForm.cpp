@@ -1,4 +1,6 @@
-// Free-form writers on standard output, each of which flushes what it wrote.
+// Free-form writers on standard output, each of which flushes what it wrote. A layout from before
+// the fixed format: no columns, no continuation. The fixed format of the record writer is what the
+// runs use.
 
 #include <iostream>
 

@@ -1,5 +1,8 @@
 // The choice of the head elements: global elements that nothing refers to. References are collected
-// once, as local names, instead of being searched for each candidate.
+// once, as local names, instead of being searched for each candidate. A reference counts when it
+// stays in its own namespace, and then for every candidate of its local name. Imported documents
+// are asked for heads when the main one declares no candidate at all, not when all of its
+// candidates are referred to.
 
 #include "schema/HeadElements.h"
 
@@ -19,6 +22,7 @@ bool IsConcreteElement(const CKTXMLElement* e) {
            AttributeValue(e, "name") != nullptr && (abstract == nullptr || *abstract != "true");
 }
 
+/// A member of a substitution group takes its head's place in a document and is no record.
 bool IsCandidate(const CKTXMLElement* e) {
     return IsConcreteElement(e) && AttributeValue(e, "substitutionGroup") == nullptr;
 }
@@ -52,6 +56,7 @@ void CollectReferencedNames(const CKTNameResolver& resolver, CKTXMLElement* sche
     schema->findElement("ref", compareElemByAttrType, referring, true);
     for (const CKTXMLElement* e : referring) {
         const std::string_view name = CKTXMLNode::getNonQualifiedName(*AttributeValue(e, "ref"));
+        // Asked once for each name that is found: resolving a namespace climbs to the root.
         if (!names.contains(name) && IsReferenceTo(resolver, e, name)) {
             names.insert(name);
         }
@@ -66,6 +71,7 @@ void AppendChosenHeads(const CKTXMLSchemaDoc& main, const std::vector<std::strin
     for (const CKTXMLSchemaDoc* doc : documents) {
         for (CKTXMLElement* e : doc->OwnDeclarations()) {
             if (IsConcreteElement(e)) {
+                // The main schema comes first, so its declaration wins over an imported one.
                 elements.try_emplace(*AttributeValue(e, "name"), e);
             }
         }
@@ -86,6 +92,7 @@ void AppendUnreferenced(const CKTXMLSchemaDoc& main, const CKTNameResolver& reso
     std::unordered_set<std::string_view> referenced;
     CollectCandidates(main, candidates);
     CollectReferencedNames(resolver, main.getSchemaElement(), referenced);
+    // References in imported documents count in either case.
     const bool fromImports = candidates.empty();
     for (const CKTXMLSchemaDoc* doc : ImportedDocuments(main)) {
         if (fromImports) {

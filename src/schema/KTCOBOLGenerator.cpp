@@ -1,4 +1,6 @@
 // The facade: the output file, the head elements one after the other, and how each of them ended.
+// Records are written as soon as they are complete and then destroyed, so memory is that of the
+// largest record. What goes wrong in one record does not stop the next.
 
 #include "schema/KTCOBOLGenerator.h"
 
@@ -38,6 +40,7 @@ bool CKTCOBOLGenerator::GenerateFile(const std::string& outputName, const std::s
         Report<SchemaMessage::NoSchema>();
     } else {
         CKTXMLElement* schema = m_pDocument->getSchemaElement();
+        // The last place in which names are resolved, for every document of the set.
         GeneratorState().currentSchemaElement = schema;
         m_Writer = {prefix, countIn, uniqueNames};
         CKTCOBOLRecordItem* current = nullptr;
@@ -54,6 +57,7 @@ bool CKTCOBOLGenerator::GenerateFile(const std::string& outputName, const std::s
 CKTCOBOLRecordItem* CKTCOBOLGenerator::getCOBOLFromSchema(CKTXMLElement* e, unsigned level,
                                                           unsigned indent,
                                                           CKTCOBOLRecordItem** current) {
+    // Everything below counts from its parent.
     m_Walk.Records().PlaceFirstItem(level, indent);
     if (e != nullptr && getElementType(e) == GeneratorKind::Schema) {
         ConvertSchema(e);
@@ -82,8 +86,10 @@ void CKTCOBOLGenerator::ConvertSchema(CKTXMLElement* schema) {
     for (CKTXMLElement* head : heads) {
         if (ConvertHead(head)) {
             ++written;
+            // Into the copybook: an empty line behind each record.
             std::cout.put('\n');
         }
+        // Gives the memory of the record back before the next head is tried.
         m_Walk.Records().Begin();
     }
     std::cerr << "\n";
@@ -91,6 +97,8 @@ void CKTCOBOLGenerator::ConvertSchema(CKTXMLElement* schema) {
 }
 
 bool CKTCOBOLGenerator::ConvertHead(CKTXMLElement* head) {
+    // Messages are the only trace of why nothing came of a head, so their count tells whether the
+    // user knows.
     const int saidBefore = m_nErrorCount + m_nWarningCount;
     const Answer answer = m_Walk.WalkHead(head);
     const std::string* name = AttributeValue(head, "name");

@@ -1,4 +1,5 @@
-// The lists of a schema document. Each is filled in one pass over the global declarations.
+// The lists of a schema document, each filled in one pass over the global declarations. Included
+// documents have no lists that last: their declarations join those of the main one.
 
 #include "schema/KTXMLSchemaDoc.h"
 
@@ -29,6 +30,7 @@ CKTXMLSchemaDoc::CKTXMLSchemaDoc(CKTXMLElement* root, CKTXMLSchemaDoc* target, s
     }
     std::optional<CKTSchemaSet::CKTLoadGuard> loading;
     if (target == nullptr) {
+        // An import of the main file means this document, and an include of it adds nothing.
         m_Set.RegisterImport(m_Place.baseFile, this);
         loading.emplace(m_Set, m_Place.baseFile);
     }
@@ -53,6 +55,7 @@ bool CKTXMLSchemaDoc::InitializeElementLists() {
             m_NamespaceDeclList.push_back(a);
         }
     }
+    // The search goes along the siblings, so it begins at the first of them.
     CKTXMLElement* first = m_pSchemaElement->getFirstChildElem();
     for (const auto& [name, list] : kListedTags) {
         first->findElement(name, compareElemByName, ListOf(list), false);
@@ -74,6 +77,7 @@ CKTXMLSchemaDoc::ElementList CKTXMLSchemaDoc::OwnDeclarations() const {
     if (m_pSchemaElement != nullptr) {
         for (CKTXMLElement* e = m_pSchemaElement->getFirstChildElem(); e != nullptr;
              e = e->getNextSibling()) {
+            // They lie in this tree, but an imported document has brought them.
             if (!m_ForeignDeclarations.contains(e)) {
                 own.push_back(e);
             }

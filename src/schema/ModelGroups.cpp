@@ -1,5 +1,7 @@
 // Sequences, choices, groups and attribute groups. A group that occurs more than once is an item of
-// its own; any other leaves its members to the item that it stands in.
+// its own; any other leaves its members to the item that it stands in. All members of a choice are
+// converted, one behind the other: a record has room for each. Names of group items are counted for
+// the process, so that two records of one copybook differ in them.
 
 #include "schema/ActiveGuard.h"
 #include "schema/Complaints.h"
@@ -58,6 +60,8 @@ Answer WalkGroupReference(CKTWalk& walk, const CKTXMLElement* e, const std::stri
         Report<SchemaMessage::MissingReference>(ref);
         return Answer::Nothing;
     }
+    // Groups are active for the whole record and not for an item, since their members need not make
+    // one.
     const CKTActiveGuard active(walk.GroupsWalked(), target);
     if (!active.IsFirst()) {
         Report<SchemaMessage::Recursion>(ref);
@@ -68,6 +72,7 @@ Answer WalkGroupReference(CKTWalk& walk, const CKTXMLElement* e, const std::stri
 
 Answer WalkMembers(CKTWalk& walk, const CKTXMLElement* group, OpenItem& open) {
     const std::string* ref = AttributeValue(group, "ref");
+    // A definition has a name, and its own content comes first.
     return ref != nullptr && AttributeValue(group, "name") == nullptr
                ? WalkGroupReference(walk, group, *ref, open)
                : walk.WalkChildren(group, open);
@@ -80,14 +85,17 @@ Answer TakeModelGroup(CKTWalk& walk, CKTXMLElement* group, OpenItem& around) {
     if (IsNever(maximum)) {
         return Answer::Made;
     }
+    // An unbounded group has no number for its OCCURS clause and is walked once.
     if (maximum == nullptr || !IsNumberAboveOne(*maximum)) {
         return WalkMembers(walk, group, around);
     }
+    // Made before its reference is looked up, so that a reference to nothing still takes a name.
     OpenItem own(MakeGroupItem(walk.Records(), group, *around.item));
     if (own.item == nullptr) {
         return Answer::Nothing;
     }
     const Answer members = WalkMembers(walk, group, own);
+    // The item was made for the group alone; without members it stands for nothing.
     if (members == Answer::Nothing) {
         walk.Records().Remove(*own.item);
     }

@@ -1,6 +1,7 @@
 // Names are resolved upwards from where they are written. A namespace is looked for in the elements
 // above, a declaration in an index of the documents, which is built at the first question. Answers
-// are kept by the element that asks: it has one name of each sort only.
+// are kept by the element that asks: it has one name of each sort only. What cannot be found is
+// null and is reported by who asked, in the words that fit there.
 
 #include "schema/NameResolver.h"
 
@@ -46,15 +47,18 @@ const std::string* CKTNameResolver::FindNamespace(const CKTXMLElement* e,
             return &above->getValue();
         }
     }
+    // Bound by definition, without a declaration.
     if (attrName == "xmlns:xml") {
         return &xmlNamespace;
     }
+    // Any other prefix that nothing binds means nothing; it does not fall back on the main schema.
     if (attrName != "xmlns" && attrName != "targetNamespace") {
         return nullptr;
     }
     const CKTXMLElement* schema = GeneratorState().currentSchemaElement;
     const std::string* target =
         schema == nullptr ? nullptr : AttributeValue(schema, "targetNamespace");
+    // The main schema is the last place to look, also for an element of an imported one.
     return target == nullptr ? &none : target;
 }
 
@@ -115,6 +119,7 @@ CKTXMLElement* CKTNameResolver::FindDeclaration(const CKTXMLElement* context,
     }
     if (m_pIndex == nullptr) {
         m_pIndex = std::make_unique<CKTDeclarationIndex>(
+            // At the first question, when the set is complete.
             *m_pDocument, *FindNamespace(nullptr, "targetNamespace"));
     }
     return m_pIndex->Find(*uri, name, list);
@@ -123,6 +128,7 @@ CKTXMLElement* CKTNameResolver::FindDeclaration(const CKTXMLElement* context,
 /// What the redefinition replaced that `context` stands in, if the name is the redefinition's own.
 CKTXMLElement* CKTNameResolver::FindReplaced(const CKTXMLElement* context, std::string_view name,
                                              std::string_view uri) const {
+    // Only the redefinition around the name counts; one further up replaces something else.
     for (const CKTXMLElement* up = context; up != nullptr; up = up->getParent()) {
         if (CKTXMLElement* replaced = m_pDocument->getReplaced(up)) {
             const bool same = *AttributeValue(up, "name") == name &&
@@ -134,6 +140,7 @@ CKTXMLElement* CKTNameResolver::FindReplaced(const CKTXMLElement* context, std::
 }
 
 CKTXMLElement* CKTNameResolver::FindType(const CKTXMLElement* context, std::string_view qname) {
+    // Both share one set of names, so at most one of the two is there.
     CKTXMLElement* type = FindDeclaration(context, qname, SIMPLE_TYPES);
     return type != nullptr ? type : FindDeclaration(context, qname, COMPLEX_TYPES);
 }
@@ -143,6 +150,7 @@ CKTXMLElement* CKTNameResolver::FindType(const CKTXMLElement* context, std::stri
 CKTXMLElement* CKTNameResolver::FindBase(const CKTXMLElement* context, std::string_view qname,
                                          DeclarationList list) {
     CKTXMLElement* replaced = nullptr;
+    // Spares the way up in the many schemas that redefine nothing.
     if (m_pDocument != nullptr && !m_pDocument->getList(REDEFINED).empty()) {
         replaced = FindDeclaration(context, qname, REPLACED_BY_REDEFINITION);
     }
@@ -173,6 +181,7 @@ const NameMeaning& CKTNameResolver::MeaningOfType(const CKTXMLElement* context,
         meaning.builtIn = FindBuiltIn(context, type);
         if (meaning.builtIn == nullptr) {
             meaning.declaration = FindType(context, type);
+            // Whether a name leads back to itself is asked of complex types alone.
             meaning.complexType = FindDeclaration(context, type, COMPLEX_TYPES);
         }
         return meaning;
@@ -224,6 +233,7 @@ bool CKTNameResolver::IsSubstitutionHead(std::string_view name, std::string_view
         return false;
     }
     if (!m_bSubstitutionHeadsKnown) {
+        // A schema without such groups has an empty set, which is not the same as none made yet.
         m_bSubstitutionHeadsKnown = true;
         CollectSubstitutionHeads();
     }

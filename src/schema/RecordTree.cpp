@@ -1,5 +1,6 @@
 // Items are counted when they are made, not when the record is finished, because what a schema
 // unfolds to may be larger than any memory. A removed item stays counted: making it took its time.
+// A record that is given up stays so until the next one begins, and makes no further item.
 
 #include "schema/RecordTree.h"
 
@@ -43,6 +44,7 @@ bool CKTRecordTree::CountItem() {
 }
 
 bool CKTRecordTree::CountVisit(std::uint64_t depth) {
+    // Depth is bounded as well, because the handlers call each other.
     if (++m_nVisits > kMaxConstructsVisited || depth > kMaxConstructDepth) {
         m_Excess = Excess::TooComplex;
     }
@@ -50,6 +52,7 @@ bool CKTRecordTree::CountVisit(std::uint64_t depth) {
 }
 
 Item* CKTRecordTree::MakeItem(Item* parent, std::string_view shownName) {
+    // Not counted: nothing is made, and the message comes once for each such branch.
     if (parent != nullptr && parent->m_nLevel >= kMaxItemLevel) {
         Report<SchemaMessage::TooDeep>(shownName, kMaxItemLevel);
         return nullptr;
@@ -73,6 +76,7 @@ Item* CKTRecordTree::MakeGeneratedItem(Item& parent, std::string_view dataName,
                                        std::string_view ending) {
     CKTItemText cobolName;
     cobolName.Assign(dataName, ending);
+    // What is handed in need not be a data name yet.
     cobolName.Replace('_', '-');
     Item* item = MakeItem(&parent, cobolName);
     if (item != nullptr) {
@@ -88,6 +92,7 @@ Item* CKTRecordTree::MakeConditionItem(Item& parent) {
         return nullptr;
     }
     auto made = std::make_unique<Item>();
+    // Depth sets the column of the entry; the level number does not, since all conditions have 88.
     made->m_nLevel = kConditionNameLevel;
     made->m_nDepth = parent.m_nDepth + 1;
     made->m_sMinOccurs = "1";
@@ -111,9 +116,11 @@ void CKTRecordTree::MoveValue(OpenItem& open, bool toFront) {
             return;
         }
         if (toFront) {
+            // In front of what is there already, the attributes.
             std::rotate(item.m_Children.begin(), item.m_Children.end() - 1, item.m_Children.end());
         }
     }
+    // The whole picture moves, down to the digits of facets that were read before the move.
     Item& value = *open.valueItem;
     value.m_sPicType = std::exchange(item.m_sPicType, {});
     value.m_sPicLength = std::exchange(item.m_sPicLength, {});

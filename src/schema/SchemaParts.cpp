@@ -1,6 +1,8 @@
 // The files that a schema document names. Included files are read depth first, so that what an
 // inner file declares comes before what the outer one does; a redefined file is an included one
-// whose declarations are then replaced.
+// whose declarations are then replaced. A file that cannot be used is left out after the parser's
+// messages, and the rest goes on. Recursion is as deep as files include each other, and each is
+// loaded once in its role.
 
 #include <memory>
 #include <optional>
@@ -34,6 +36,7 @@ bool FindLocation(const CKTXMLElement* part, std::string& location) {
         return false;
     }
     location = *written;
+    // In a file name an escaped blank is a blank.
     if (location.find("://") == std::string::npos) {
         location = WithBlanks(location);
     }
@@ -47,6 +50,7 @@ bool AdoptNamespace(CKTXMLElement* root, const std::string& uri) {
     if (schema == nullptr || AttributeValue(schema, "targetNamespace") != nullptr) {
         return false;
     }
+    // With a default namespace its unprefixed names lead into the namespace that it was given.
     for (const char* name : {"targetNamespace", "xmlns"}) {
         if (!uri.empty() && AttributeValue(schema, name) == nullptr) {
             auto attribute = std::make_unique<CKTXMLAttribute>(name, uri);
@@ -69,6 +73,7 @@ CKTXMLSchemaDoc* CKTXMLSchemaDoc::PreProcessSchema(CKTXMLElement* root, CKTXMLSc
         return target;
     }
     ElementList parts;
+    // In document order, the schema element before what it names.
     root->findElement({}, compareElemForMultipartSchema, parts, true);
     if (parts.empty()) {
         return target;
@@ -77,6 +82,7 @@ CKTXMLSchemaDoc* CKTXMLSchemaDoc::PreProcessSchema(CKTXMLElement* root, CKTXMLSc
     for (CKTXMLElement* part : parts) {
         ProcessPart(part, target, carried);
     }
+    // Behind what the inner files have brought meanwhile.
     target->m_Brought.Append(carried.TakeAll(), m_Place.owner);
     if (target == this) {
         TakeBroughtDeclarations();
@@ -127,6 +133,7 @@ void CKTXMLSchemaDoc::TakeBroughtDeclarations() {
 void CKTXMLSchemaDoc::ProcessImport(const CKTXMLElement* import, CKTXMLSchemaDoc* target) {
     std::string location;
     const std::string* uri = AttributeValue(import, "namespace");
+    // Without a namespace no prefix could lead there.
     if (!FindLocation(import, location) || uri == nullptr) {
         return;
     }
@@ -167,6 +174,7 @@ CKTXMLSchemaDoc* CKTXMLSchemaDoc::LoadImport(const std::string& fileName, CKTXML
     if (m_Set.FindImport(fileName, known)) {
         return known;
     }
+    // Marks it as tried before it is read: a file that cannot be used is reported once.
     m_Set.RegisterImport(fileName, nullptr);
     CKTXMLElement* root = m_Set.Load(fileName);
     if (root == nullptr) {
@@ -176,6 +184,7 @@ CKTXMLSchemaDoc* CKTXMLSchemaDoc::LoadImport(const std::string& fileName, CKTXML
     doc->m_Place.baseFile = OpenedLocation(fileName);
     doc->m_Place.ownFile = doc->m_Place.baseFile;
     m_Set.RegisterImport(fileName, doc);
+    // An include that leads back to the file while it is being loaded adds nothing.
     const CKTSchemaSet::CKTLoadGuard loading(m_Set, fileName);
     doc->PreProcessSchema(root, target);
     return doc;
@@ -199,6 +208,7 @@ void CKTXMLSchemaDoc::ProcessInclude(const CKTXMLElement* include, CKTXMLSchemaD
     if (AdoptNamespace(root, uri)) {
         m_Set.NoteAdoption(fileName);
     }
+    // Lives only as long as its declarations are on their way into the main document.
     CKTXMLSchemaDoc included(m_Set, m_Place.owner,
                              IsLocation(location) ? m_Place.baseFile : fileName);
     if (IsLocation(location)) {
@@ -231,10 +241,14 @@ void CKTXMLSchemaDoc::ProcessRedefine(CKTXMLElement* redefine, CKTXMLSchemaDoc* 
         if (name == nullptr || name->empty()) {
             return false;
         }
+        // What the redefined file declares itself comes first. It is taken by name alone, since the
+        // load has judged that kinds agree.
         std::unique_ptr<CKTXMLElement> replaced = carried.TakeFirst(*name);
         std::optional<std::size_t> place;
         if (replaced == nullptr) {
             place = target->m_Brought.Find(getElementType(&child), *name, from);
+            // Nothing to replace: the redefinition stays where it is written and is found by
+            // nobody.
             if (!place || target->m_Brought.At(*place).declaration == nullptr) {
                 return false;
             }

@@ -1,5 +1,7 @@
 // What was loaded for one schema, and from where. The parser library has resolved and checked the
-// whole set when it loaded the main schema; here each file is read once more, for its tree.
+// whole set when it loaded the main schema; here each file is read once more, for its tree. A file
+// goes by its canonical path, so that links and ways around lead to one entry. Sources of files are
+// exchangeable: tests hold whole sets in memory.
 
 #include "schema/SchemaSet.h"
 
@@ -28,6 +30,7 @@ bool CKTLoadedSchemaFiles::IsJudged(const std::string& fileName) const {
 }
 
 std::unique_ptr<CKTXMLElement> CKTLoadedSchemaFiles::Read(const std::string& fileName) {
+    // No message may come twice, so what the load of the main schema has seen is not judged again.
     if (IsJudged(fileName)) {
         return m_Parser.ReadJudgedSchema(fileName);
     }
@@ -36,6 +39,7 @@ std::unique_ptr<CKTXMLElement> CKTLoadedSchemaFiles::Read(const std::string& fil
         return nullptr;
     }
     std::unique_ptr<CKTXMLElement> root = parser->getXMLDocument();
+    // Kept because elements know their parser.
     m_FurtherParsers.push_back(std::move(parser));
     return root;
 }
@@ -63,6 +67,7 @@ bool CKTSchemaSet::BeginInclude(const std::string& fileName, const std::string& 
         return false;
     }
     const auto [inclusion, isFirst] = m_Included.try_emplace(identity);
+    // Only a file without a namespace of its own can count for several.
     return (isFirst || inclusion->second.isAdopted) &&
            inclusion->second.namespaces.insert(uri).second;
 }
@@ -87,6 +92,7 @@ CKTSchemaSet::CKTLoadGuard::CKTLoadGuard(CKTSchemaSet& set, const std::string& f
       m_bAdded(set.m_Loading.insert(m_sIdentity).second) {}
 
 CKTSchemaSet::CKTLoadGuard::~CKTLoadGuard() {
+    // The outer one of two guards for a file takes the mark back.
     if (m_bAdded) {
         m_Set.m_Loading.erase(m_sIdentity);
     }

@@ -1,5 +1,7 @@
 // Words of a schema. A name is found in its table through a slot that its length and its ends
-// choose, because the walk asks for the kind of every construct it meets.
+// choose, because the walk asks for the kind of every construct it meets. The tables have the order
+// of their enumerations, two of them with different numbers for the same words; "enumeration" is
+// missing from the second.
 
 #include "schema/SchemaVocabulary.h"
 
@@ -64,6 +66,7 @@ Kind KindOf(std::string_view tagName) {
     static constexpr auto places = PlaceAll(kNames);
     const std::string_view name = CKTXMLNode::getNonQualifiedName(tagName);
     std::size_t slot = SlotOf(name);
+    // Ends at a free slot; there are four times as many slots as names.
     while (places[slot] != kNames.size() && kNames[places[slot]] != name) {
         slot = (slot + 1) % kSlots;
     }

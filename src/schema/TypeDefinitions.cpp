@@ -1,5 +1,7 @@
 // Type definitions. What is below one fills the item; afterwards a value that has to stand beside
-// further items moves into an item of its own.
+// further items moves into an item of its own. A list type has no COBOL form: it gets its line
+// where its value would have moved, and nowhere else, because a list without attributes beside it
+// is reported as an empty item. A type with mixed content keeps its value together.
 
 #include <algorithm>
 
@@ -37,9 +39,11 @@ bool HasValueBesideItems(const OpenItem& open) {
 
 Answer TakeTypeDefinition(CKTWalk& walk, CKTXMLElement* definition, OpenItem& open) {
     if (open.item->m_pSourceElement == nullptr) {
+        // The first definition counts: the way up to it tells whether the item is complete.
         open.item->m_pSourceElement = definition;
     }
     if (const std::string* name = UnconstrainedDeclaration(definition)) {
+        // Fails, so that the declaration leaves no item.
         Report<SchemaMessage::UnconstrainedType>(*name);
         return Answer::Nothing;
     }
@@ -51,6 +55,7 @@ Answer TakeTypeDefinition(CKTWalk& walk, CKTXMLElement* definition, OpenItem& op
     if (content == Answer::ItemGone) {
         return content;
     }
+    // Any other value of the attribute, as "1" for true, keeps the value together, on purpose.
     const bool maySplit = mixed == nullptr || mixed->empty() || *mixed == "false";
     if (maySplit && HasValueBesideItems(open)) {
         if (open.isList) {

@@ -29,6 +29,7 @@ bool findAttrByName(const CKTXMLElement* e, std::string_view name, std::string* 
 }
 
 bool findAttrByValue(const CKTXMLElement* e, std::string_view value) {
+    // An empty value is looked for nowhere, though attributes may have it.
     if (value.empty()) {
         return false;
     }
@@ -58,6 +59,7 @@ bool CKTCOBOLGenerator::convertXMLtoCOBOL(CKTCOBOLRecordItem* item, const CKTXML
         return false;
     }
     ApplyBuiltIn(*item, *form);
+    // The picture is set in either case; only plain text and counts are answered with true.
     return form->isTextOrCount;
 }
 
@@ -123,6 +125,7 @@ void CKTCOBOLGenerator::ProcessElementFacets(CKTCOBOLRecordItem* item,
     if (item == nullptr) {
         return;
     }
+    // Without one the facets are those of the definition that the item was made from.
     restriction = restriction != nullptr ? restriction : item->m_pSourceElement;
     if (restriction != nullptr) {
         OpenItem open(item);

@@ -1,4 +1,6 @@
-// Unions: each member type becomes an item of its own, and the later ones redefine the first.
+// Unions: each member type becomes an item of its own, and the later ones redefine the first. The
+// first member that can be written is the one that the others redefine; those before it are left
+// out by the writer.
 
 #include <sstream>
 #include <string>
@@ -21,6 +23,7 @@ struct UnionMember {
 std::vector<UnionMember> MembersOf(const CKTXMLElement* unionElement) {
     std::vector<UnionMember> members;
     const std::string* names = AttributeValue(unionElement, "memberTypes");
+    // White space of any kind and amount parts the names.
     std::istringstream list(names == nullptr ? std::string() : *names);
     for (std::string name; list >> name;) {
         members.push_back({name, nullptr, nullptr});
@@ -52,6 +55,7 @@ bool FillFromMember(CKTWalk& walk, const UnionMember& member, CKTCOBOLRecordItem
         TakeBuiltIn(holder, *member.builtIn);
         return true;
     }
+    // A member may be a union of its own, so the type is walked and not only asked for its base.
     const CKTActiveGuard active(walk.TypesWalked(), CKTWalk::ActiveType(&holder, member.type));
     OpenItem open(&holder);
     return walk.Walk(member.type, open) != Answer::ItemGone;
@@ -71,6 +75,7 @@ CKTCOBOLRecordItem* MakeMemberItem(CKTWalk& walk, const UnionMember& member, std
     if (holder != nullptr && FillFromMember(walk, member, *holder)) {
         return item;
     }
+    // Without a value there is nothing for it to hold.
     records.Remove(*item);
     return nullptr;
 }
@@ -85,6 +90,7 @@ Answer TakeUnion(CKTWalk& walk, const CKTXMLElement* unionElement, OpenItem& ope
         UnionMember& member = members[number];
         if (!FindMember(walk.Names(), unionElement, member)) {
             Report<SchemaMessage::MissingMember>(member.name);
+            // A union with a part of its members would read wrong values without a word.
             for (; !made.empty(); made.pop_back()) {
                 walk.Records().Remove(*made.back());
             }
@@ -96,6 +102,8 @@ Answer TakeUnion(CKTWalk& walk, const CKTXMLElement* unionElement, OpenItem& ope
         }
         made.push_back(item);
         item->m_pRedefines = first;
+        // Asked now and not when the record is written: the clause has to name an item that is
+        // there.
         if (first == nullptr && item->CanBeWritten()) {
             first = item;
         }

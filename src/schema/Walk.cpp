@@ -1,6 +1,8 @@
 // The walk: each construct is handed to the handler of its kind, which hands what is below it back.
 // Depth and visits are bounded here, for all handlers. An item is removed in one place, when the
-// last construct of its type has yielded nothing.
+// last construct of its type has yielded nothing. What comes back from below is one answer; whoever
+// hears that its item is gone forgets it, and whoever made the item tells those above that nothing
+// came of it. No handler looks at the record tree to find out what happened.
 
 #include "schema/Walk.h"
 
@@ -22,6 +24,7 @@ private:
     std::size_t& m_nNesting;
 };
 
+/// Only a declaration can begin a record; anything else fills an item that is there.
 bool NeedsItem(GeneratorKind kind) {
     return kind != GeneratorKind::Element && kind != GeneratorKind::Attribute;
 }
@@ -43,6 +46,7 @@ Answer CKTWalk::Walk(CKTXMLElement* construct, OpenItem& open) {
         return Answer::GivenUp;
     }
     const Answer answer = Dispatch(construct, open);
+    // An item that is gone is told all the same, because nobody above may touch it any more.
     if (m_Records.IsGivenUp() && answer != Answer::ItemGone) {
         return Answer::GivenUp;
     }
@@ -68,10 +72,13 @@ Answer CKTWalk::Dispatch(CKTXMLElement* construct, OpenItem& open) {
         case GeneratorKind::Union:
             return TakeUnion(*this, construct, open);
         case GeneratorKind::List:
+            // A list has no item: whether its value is lost is known only when its type is
+            // complete.
             open.NoteList(m_pSimpleBase);
             return Answer::Made;
         case GeneratorKind::Any:
         case GeneratorKind::AnyAttribute:
+            // Left out, but no failure: what stands beside the wildcard is converted.
             Report<SchemaMessage::Wildcard>();
             return Answer::Made;
         case GeneratorKind::Extension:
@@ -83,6 +90,8 @@ Answer CKTWalk::Dispatch(CKTXMLElement* construct, OpenItem& open) {
         case GeneratorKind::SimpleContent:
         case GeneratorKind::ComplexContent:
             return TakeTypeDefinition(*this, construct, open);
+        // Annotations, identity constraints and whatever is unknown neither add to the item nor
+        // fail.
         default:
             return Answer::Made;
     }
@@ -106,10 +115,13 @@ Answer CKTWalk::RemoveIfEmpty(const CKTXMLElement* construct, const OpenItem& op
         return Answer::Nothing;
     }
     for (const CKTXMLElement* up = construct; up != item->m_pSourceElement; up = up->getParent()) {
+        // More of the type is still to come, or the walk has left the type by a reference or a
+        // base, so that its end is not in sight from here.
         if (up == nullptr || up->getNextSibling() != nullptr) {
             return Answer::Nothing;
         }
     }
+    // An attribute stays even without a picture; the writer says that it is empty.
     if (!item->m_Children.empty() || item->HasValue() || item->m_bIsAttribute) {
         return Answer::Nothing;
     }

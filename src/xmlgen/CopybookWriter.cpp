@@ -1,4 +1,7 @@
-// An entry is built in one line, clause by clause, and laid out in columns when it is complete.
+// An entry is built in one line, clause by clause, and laid out in columns when it is complete. The
+// dictionary is the source of everything but the XML clauses, which come from the view and so from
+// the mapping set. What is left out of the schema for want of a name is written here: the storage
+// must stay the same.
 
 #include "xmlgen/CopybookWriter.h"
 
@@ -31,6 +34,7 @@ void ReportRenaming(const CKTItemClauses& clauses) {
     std::istringstream words{std::string(clauses.Text(Clause::Renames))};
     std::string first;
     std::string second;
+    // Several words, a lower and an upper name: the dictionary says it in one of two ways.
     const bool range =
         (words >> first >> second) || clauses.Has(Clause::Through) || clauses.Has(Clause::To);
     if (range) {
@@ -57,6 +61,7 @@ bool ReportLeftOut(const CKTItemClauses& clauses) {
 
 bool CKTCopybookWriter::Begin(const DictionaryItem& item) {
     if (item.kind == DictionaryKind::Program) {
+        // They stand before the record in the program and get their warnings first.
         for (const CKTXMLElement* passed : m_Passed) {
             ReportLeftOut(CKTItemClauses(passed));
         }
@@ -110,6 +115,7 @@ void CKTCopybookWriter::BeginLine(const CKTItemClauses& clauses, int level,
 }
 
 void CKTCopybookWriter::AppendUsage(DictionaryKind kind, const CKTItemClauses& clauses) {
+    // Not only when the dictionary says so: the kind of the item implies it.
     if (kind == DictionaryKind::National) {
         m_sLine += " usage is national";
     } else if (IsElementary(kind) && clauses.Has(Clause::Usage) &&
@@ -121,6 +127,7 @@ void CKTCopybookWriter::AppendUsage(DictionaryKind kind, const CKTItemClauses& c
 
 void CKTCopybookWriter::AppendOccurs(const CKTItemClauses& clauses) {
     const std::string_view maximum = clauses.Text(Clause::MaxOccurs);
+    // What occurs once needs no clause.
     if (!clauses.Has(Clause::MaxOccurs) || maximum == "1") {
         return;
     }
@@ -138,6 +145,7 @@ void CKTCopybookWriter::AppendOccurs(const CKTItemClauses& clauses) {
 }
 
 void CKTCopybookWriter::AppendXmlClauses(const DictionaryItem& item) {
+    // FILLER has no counterpart in a document.
     if (item.name.empty()) {
         return;
     }
@@ -172,6 +180,7 @@ void CKTCopybookWriter::AppendValues(const DictionaryItem& condition,
         if (IsRange(kind)) {
             values += " ";
             values += AttributeOf(value, "from");
+            // Always the long word, whatever the source has.
             values += " through ";
             values += AttributeOf(value, "to");
         } else if (IsConstant(kind) && value->getAttribute("value") != nullptr) {
@@ -179,6 +188,7 @@ void CKTCopybookWriter::AppendValues(const DictionaryItem& condition,
             values += AttributeOf(value, "value");
         }
     }
+    // Only a condition-name without values below it; otherwise they would stand twice.
     if (own && clauses.Has(Clause::Value)) {
         values += " ";
         values += clauses.Text(Clause::Value);
@@ -190,6 +200,7 @@ void CKTCopybookWriter::AppendValues(const DictionaryItem& condition,
 }
 
 void CKTCopybookWriter::EndLine() {
+    // The layout sends it to standard output, which leads into the file.
     m_sLine += '.';
     CKTCOBOLRecordItem::OutputFixedFormatCOBOL(m_sLine.c_str(), std::cout);
 }

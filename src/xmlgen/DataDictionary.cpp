@@ -14,6 +14,7 @@ void TakeRecordLevelItem(const CKTXMLElement* item, DictionaryRecord& program) {
     if (program.record != nullptr) {
         return;
     }
+    // Neither has storage of its own that a document could fill.
     if (IsRedefinition(item) || IsRenaming(item)) {
         program.passed.push_back(item);
     } else if (!IsUnnamed(item)) {
@@ -26,6 +27,7 @@ DictionaryRecord ChooseRecord(const std::vector<DictionaryRecord>& programs) {
     DictionaryRecord chosen;
     for (const DictionaryRecord& program : programs) {
         chosen.hasProgram = chosen.hasProgram || program.hasProgram;
+        // A program without a record has been passed as well, and so has what it holds.
         chosen.passed.insert(chosen.passed.end(), program.passed.begin(), program.passed.end());
         if (program.record != nullptr) {
             chosen.program = program.program;
@@ -105,6 +107,7 @@ DictionaryRecord FindDictionaryRecord(const CKTXMLElement* root) {
     }
     std::vector<DictionaryRecord> programs(
         1);  // in the order of their start tags, behind the outside
+    // The document element is the program or holds programs; anything deeper is found on the way.
     const bool wrapped = DictionaryKindOf(document) != DictionaryKind::Program;
     std::vector<Place> pending = {{wrapped ? document->getFirstChildElem() : document, kOutside}};
     while (!pending.empty()) {
@@ -113,6 +116,7 @@ DictionaryRecord FindDictionaryRecord(const CKTXMLElement* root) {
         if (e == nullptr) {
             continue;
         }
+        // Before what is below it: the stack takes the last one first.
         pending.push_back({e->getNextSibling(), program});
         const DictionaryKind kind = DictionaryKindOf(e);
         if (kind == DictionaryKind::Program) {
@@ -151,6 +155,7 @@ bool IsNoName(std::string_view name) {
 }
 
 std::string_view XmlTypeOf(DictionaryKind kind, const CKTItemClauses& clauses) {
+    // Edited numbers are text.
     if (kind != DictionaryKind::Numeric) {
         return "string";
     }

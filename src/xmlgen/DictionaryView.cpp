@@ -1,6 +1,8 @@
 // One walk over the record with a stack of its own, because a dictionary may be nested without
 // bound. It goes on where the outputs stop, below redefinitions and items that are too deep, as
-// long as there is a mapping set: an entry for one of those was meant for something.
+// long as there is a mapping set: an entry for one of those was meant for something. Items lie one
+// behind the other in document order, each with the end of its subtree, so that a writer needs no
+// pointers and a subtree is passed over in one step.
 
 #include "xmlgen/DictionaryView.h"
 
@@ -49,12 +51,14 @@ void CKTDictionaryView::Walk(const CKTXMLElement* record) {
             continue;
         }
         siblings.next = e->getNextSibling();
+        // A copy, because entering may move the stack.
         Enter(e, Siblings(siblings));
     }
 }
 
 void CKTDictionaryView::Enter(const CKTXMLElement* e, const Siblings& place) {
     DictionaryKind kind = DictionaryKindOf(e);
+    // Sections have no level and no place of their own; their items count as those of the owner.
     if (IsSection(kind)) {
         m_Pending.push_back({e->getFirstChildElem(), NameBelow(place, e), place.owner, place.level,
                              place.shown, false});
@@ -67,6 +71,7 @@ void CKTDictionaryView::Enter(const CKTXMLElement* e, const Siblings& place) {
     const bool isData = IsDataItem(kind);
     if (!place.shown) {
         if (isData && !AttributeOf(e, "name").empty()) {
+            // Nothing is written for it, but its entry is not idle.
             m_pMapping->FindAndMark(name);
         }
         if (isData) {
@@ -77,6 +82,7 @@ void CKTDictionaryView::Enter(const CKTXMLElement* e, const Siblings& place) {
     }
     const std::uint32_t index = Add(e, kind, name, place.level);
     const DictionaryItem& item = m_Items[index];
+    // Tells the schema writer whether a sequence is needed.
     m_Items[place.owner].hasElements = m_Items[place.owner].hasElements || !item.isAttribute;
     const bool shown = isData ? !item.isRedefinition && item.level <= CKTCOBOLRecordItem::kMaxLevel
                               : IsCondition(kind) && place.level < kMaxNesting;
@@ -107,6 +113,7 @@ void CKTDictionaryView::Describe(DictionaryItem& item, const CKTItemClauses& cla
     item.isRenaming = clauses.Has(Clause::Renames);
     item.name = IsNoName(name) ? std::string_view() : name;
     item.type = XmlTypeOf(item.kind, clauses);
+    // Without an entry the defaults stand; with one all of them are replaced, by empty texts too.
     if (m_pMapping == nullptr || name.empty()) {
         return;
     }

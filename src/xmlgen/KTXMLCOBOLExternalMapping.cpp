@@ -1,5 +1,7 @@
 // Entries are kept as the file has them and found through an index by name, which is made when it
-// is first asked for. It gives the first of several entries with one name.
+// is first asked for. It gives the first of several entries with one name. A file that holds
+// anything unknown counts for nothing: half a mapping would change a schema without a word. Fields
+// may come in any order and more than once; the last one counts.
 
 #include "xmlgen/KTXMLCOBOLExternalMapping.h"
 
@@ -58,6 +60,7 @@ void SetField(CKTXMLCOBOLMapping& entry, MappingElement field, std::string_view 
             entry.m_sXMLNamespace = text;
             break;
         case MappingElement::XmlAttribute:
+            // Any other word is no.
             entry.m_bXMLAttribute = text == "true";
             break;
         case MappingElement::CobolCountIn:
@@ -82,6 +85,7 @@ bool CKTXMLCOBOLExternalMapping::Initialize(const CKTXMLElement* e, CKTXMLCOBOLM
         if (element != e) {
             pending.emplace_back(element->getNextSibling(), entry);
         }
+        // The root of the tree stands for the document and is no element of the file.
         if (element->isParent() && !TakeElement(element, entry)) {
             ClearAndDestroy();
             return false;
@@ -94,6 +98,7 @@ bool CKTXMLCOBOLExternalMapping::Initialize(const CKTXMLElement* e, CKTXMLCOBOLM
 bool CKTXMLCOBOLExternalMapping::TakeElement(const CKTXMLElement* e, CKTXMLCOBOLMapping*& current) {
     const MappingElement kind = MappingElementOf(e);
     if (kind == MappingElement::Entry) {
+        // Fields fill the entry that was begun last, however deep they stand.
         current = addXMLCOBOLMapping(std::make_unique<CKTXMLCOBOLMapping>());
     } else if (current != nullptr) {
         m_bIndexed = false;

@@ -1,5 +1,7 @@
 // The traversal that all outputs share, and the files that they go to. The view of the record is
-// made once for all outputs; it is made anew when a mapping set comes in between.
+// made once for all outputs; it is made anew when a mapping set comes in between. Files are opened
+// one after the other, and standard output leads into the open one: the writers do not know where
+// they write. An output that fails does not stop the next.
 
 #include "xmlgen/KTXMLGenerator.h"
 
@@ -91,6 +93,7 @@ bool CKTXMLGenerator::GenerateFile(const std::string& dataDictFile, const std::s
                              : type == ENHANCED_COBOL ? cobolFile
                                                       : std::string();
     CKTOutputFile file(name);
+    // Without a file the output goes to the console, and the run goes on.
     const bool toFile = file.IsOpen();
     if (!toFile && IsQuiet()) {
         // What goes to a silenced console is lost.
@@ -101,6 +104,7 @@ bool CKTXMLGenerator::GenerateFile(const std::string& dataDictFile, const std::s
         Report<XmlgenMessage::UnopenedOutput>(name);
     }
     {
+        // In a scope of its own: what it holds back is written before the file is closed.
         CKTMarkup markup(*m_pDictionary->getXMLFormatter(), *m_pDictionary->getFormatTarget());
         WriteOutput(type, markup, dataDictFile, text);
     }
@@ -157,7 +161,9 @@ void CKTXMLGenerator::Traverse(const CKTDictionaryView& view, std::uint32_t inde
     if (!writer.Begin(item)) {
         return;
     }
+    // Two passes over the members keep the order within each kind.
     const bool split = item.kind == DictionaryKind::Group && writer.PutsAttributesLast();
+    // An item ends where its subtree does, so this goes from sibling to sibling.
     for (std::uint32_t member = index + 1; member < item.end; member = view[member].end) {
         if (!split || !view[member].isAttribute) {
             Traverse(view, member, writer);

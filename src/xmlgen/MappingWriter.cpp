@@ -1,4 +1,6 @@
 // The mapping file is flat: whatever the depth of an item, its entry stands directly in the root.
+// It holds the defaults, as they stand without a mapping set: who edits it sees what would have
+// been written. An unnamed group has no entry, but what is below it does.
 
 #include "xmlgen/MappingWriter.h"
 
@@ -42,6 +44,7 @@ void CKTMappingWriter::WriteEntry(const DictionaryItem& item, const CKTItemClaus
     m_Markup.Add("<xml-cobol-mapping>\n", kEntryIndent);
     WriteField("cobol-name", CKTQualifiedName(item.element).Text());
     WriteField("cobol-count-in", m_bCountIn ? "true" : "false");
+    // A FILLER has an entry so that it can be given a name.
     WriteField("xml-name", IsNoName(name) ? std::string() : name);
     WriteField("xml-type", std::string(group ? "group" : XmlTypeOf(item.kind, clauses)));
     WriteField("xml-attribute", "false");

@@ -1,5 +1,6 @@
 // The hash runs over the bytes of the text that the name has when it is written out (FNV-1a), so it
-// can be continued; the text itself is only compared, from its end upwards, and built for output.
+// can be continued; the text itself is only compared, from its end upwards, and built for output. A
+// name begins below the first element upwards that has none, mostly a section.
 
 #include "xmlgen/QualifiedName.h"
 
@@ -42,6 +43,7 @@ CKTQualifiedName CKTQualifiedName::Below(const CKTXMLElement* e) const {
     CKTQualifiedName result(nullptr);
     result.m_pElement = e;
     if (const CKTXMLAttribute* name = e->getAttribute("name")) {
+        // An element below an unnamed one begins a name of its own.
         const std::uint64_t above = m_bNamed ? Continue(m_nHash, ".") : kStart;
         result.m_nHash = Continue(above, name->getValue());
         result.m_bNamed = true;
@@ -62,6 +64,7 @@ bool CKTQualifiedName::Is(std::string_view text) const {
             }
             text.remove_suffix(1);
         }
+        // Compared from the end, where names differ: groups share their beginnings.
         if (!text.ends_with(name->getValue())) {
             return false;
         }

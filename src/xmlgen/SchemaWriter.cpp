@@ -1,5 +1,8 @@
 // Each item that is begun remembers how it is to be ended, since the facets and the sequence that
-// were opened decide it. The lines of tags, some of them odd, are what users' scripts know.
+// were opened decide it. The lines of tags, some of them odd, are what users' scripts know. Indents
+// are those of nested tags and are handed down from item to item, so that an enumeration lines up
+// with the facets of the item that it belongs to. Attributes come last, as a complex type wants
+// them, and end the sequence.
 
 #include "xmlgen/SchemaWriter.h"
 
@@ -17,6 +20,7 @@ void ReportForeignNamespace(bool group, std::string_view uri) {
     } else {
         Report<XmlgenMessage::ForeignItem>(uri);
     }
+    // Said each time: every such item makes it so.
     Report<XmlgenMessage::InvalidSchema>();
 }
 
@@ -46,6 +50,7 @@ std::string LiteralValue(std::string_view literal) {
     const std::string_view inner = literal.substr(1, literal.size() - 2);
     for (std::size_t i = 0; i < inner.size(); ++i) {
         text += inner[i];
+        // A single mark inside would end the literal, so this is more than one literal.
         if (inner[i] == mark && (++i == inner.size() || inner[i] != mark)) {
             return std::string(literal);
         }
@@ -89,6 +94,7 @@ bool CKTSchemaWriter::Begin(const DictionaryItem& item) {
         m_Open.push_back({indent, indent});
         return true;
     }
+    // An unnamed item is left out with all below it: an element needs a name.
     if (!IsConvertible(item) || item.name.empty()) {
         return false;
     }
@@ -101,6 +107,7 @@ bool CKTSchemaWriter::Begin(const DictionaryItem& item) {
 }
 
 void CKTSchemaWriter::End(const DictionaryItem& item) {
+    // What was begun decides the end; the item alone does not tell which tags are open.
     const OpenItem open = m_Open.back();
     m_Open.pop_back();
     if (item.kind == DictionaryKind::Program) {
@@ -150,6 +157,7 @@ void CKTSchemaWriter::BeginTag(const DictionaryItem& item, const CKTItemClauses&
     }
     const std::string* minimum = clauses.Find(Clause::MinOccurs);
     const std::string* maximum = clauses.Find(Clause::MaxOccurs);
+    // A fixed OCCURS has no lower bound of its own in the dictionary; both are the same then.
     if (const std::string* shown = minimum != nullptr ? minimum : maximum) {
         m_Markup.AddAttribute("minOccurs", *shown);
     }
@@ -217,10 +225,12 @@ void CKTSchemaWriter::EndElementary(const DictionaryItem& item, const OpenItem& 
 
 CKTSchemaWriter::FacetForm CKTSchemaWriter::FacetsOf(const DictionaryItem& item,
                                                      const CKTItemClauses& clauses) {
+    // An edited number is a string without a bound.
     if (item.kind == DictionaryKind::NumericEdited) {
         return FacetForm::None;
     }
     if (item.type == "string") {
+        // The length of a binary item is its storage, not a number of characters.
         const std::string* usage = clauses.Find(Clause::Usage);
         const bool computational = usage != nullptr && my_strnicmp(usage->c_str(), "comp", 4) == 0;
         return !computational && clauses.Has(Clause::Length) ? FacetForm::Length : FacetForm::None;
@@ -242,6 +252,7 @@ void CKTSchemaWriter::WriteFacets(const DictionaryItem& item, const CKTItemClaus
         }
         m_Markup.AddTag("maxLength", indent + 9);
         m_Markup.AddAttribute("value", std::to_string(length));
+        // The end of this tag is the ">" that ends the line of an item with children.
         m_Markup.Add(item.hasChildren ? "/" : "/>\n");
         return;
     }
@@ -262,9 +273,11 @@ void CKTSchemaWriter::WriteConstant(const CKTXMLElement* constant, unsigned inde
         return;
     }
     const Enumeration& enumeration = EnumerationOf(condition->getParent());
+    // Values beside a range would refuse what the range admits.
     if (enumeration.hasRange) {
         return;
     }
+    // One block for all values of the item, however its condition-names share them out.
     if (constant == enumeration.first) {
         WriteRestriction("string", indent);
     }
@@ -289,6 +302,7 @@ void CKTSchemaWriter::WriteEndTag(const DictionaryItem& item, unsigned indent) {
 }
 
 const CKTSchemaWriter::Enumeration& CKTSchemaWriter::EnumerationOf(const CKTXMLElement* item) {
+    // Each constant asks for it; a search for each would go through all others.
     const auto [entry, isNew] = m_Enumerations.try_emplace(item);
     if (isNew) {
         entry->second = FindEnumeration(item);

@@ -23,6 +23,7 @@ bool CKTServiceWriter::Begin(const DictionaryItem& item) {
         return false;
     }
     const CKTItemClauses clauses(item.element);
+    // Passed over, with its members in its place.
     if (IsNoName(clauses.Text(Clause::Name))) {
         return true;
     }
@@ -85,6 +86,7 @@ bool CKTXMLGenerator::ApplyExternalMappingFile(const CKTXMLElement* item,
     if (entry == nullptr) {
         return true;
     }
+    // Whoever needs only some of the fields leaves the other places null.
     const auto copy = [](auto* target, const auto& value) {
         if (target != nullptr) {
             *target = value;
