@@ -108,8 +108,3 @@ CKTXMLElement* compareElemForMultipartSchema(CKTXMLElement* e, const std::string
             return nullptr;
     }
 }
-
-const std::string* AttributeValue(const CKTXMLElement* e, std::string_view name) {
-    const CKTXMLAttribute* attribute = e->getAttribute(name);
-    return attribute == nullptr ? nullptr : &attribute->getValue();
-}

@@ -106,10 +106,6 @@ CKTXMLElement* compareElemForMultipartSchema(CKTXMLElement* e, const std::string
 /// when it is not there. Returns whether it is.
 bool findAttrByName(const CKTXMLElement* e, std::string_view name, std::string* value);
 
-/// The value of the attribute named `name` as written, which lives as long as the tree; null when
-/// it is not there.
-const std::string* AttributeValue(const CKTXMLElement* e, std::string_view name);
-
 /// Says whether any attribute has exactly `value`; never for an empty value.
 bool findAttrByValue(const CKTXMLElement* e, std::string_view value);
 

@@ -146,3 +146,8 @@ CKTXMLFormatter* CKTXMLElement::getXMLFormatter() const {
 CKTDOMFormatTarget* CKTXMLElement::getFormatTarget() const {
     return m_pParser == nullptr ? nullptr : m_pParser->getFormatTarget();
 }
+
+const std::string* AttributeValue(const CKTXMLElement* e, std::string_view name) {
+    const CKTXMLAttribute* attribute = e->getAttribute(name);
+    return attribute == nullptr ? nullptr : &attribute->getValue();
+}

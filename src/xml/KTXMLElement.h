@@ -147,4 +147,8 @@ private:
     CKTDOMParser* m_pParser = nullptr;
 };
 
+/// The value of the attribute whose name as written is exactly `name`, which lives as long as the
+/// tree; null when it is not there.
+const std::string* AttributeValue(const CKTXMLElement* e, std::string_view name);
+
 #endif

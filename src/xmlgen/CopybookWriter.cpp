@@ -183,7 +183,7 @@ void CKTCopybookWriter::AppendValues(const DictionaryItem& condition,
             // Always the long word, whatever the source has.
             values += " through ";
             values += AttributeOf(value, "to");
-        } else if (IsConstant(kind) && value->getAttribute("value") != nullptr) {
+        } else if (IsConstant(kind) && AttributeValue(value, "value") != nullptr) {
             values += " ";
             values += AttributeOf(value, "value");
         }

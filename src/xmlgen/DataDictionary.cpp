@@ -132,8 +132,8 @@ DictionaryRecord FindDictionaryRecord(const CKTXMLElement* root) {
 }
 
 std::string_view AttributeOf(const CKTXMLElement* e, std::string_view name) {
-    const CKTXMLAttribute* attribute = e->getAttribute(name);
-    return attribute == nullptr ? std::string_view() : attribute->getValue();
+    const std::string* value = AttributeValue(e, name);
+    return value == nullptr ? std::string_view() : *value;
 }
 
 bool IsRedefinition(const CKTXMLElement* item) {
@@ -141,7 +141,7 @@ bool IsRedefinition(const CKTXMLElement* item) {
 }
 
 bool IsRenaming(const CKTXMLElement* item) {
-    return item->getAttribute("renames") != nullptr;
+    return AttributeValue(item, "renames") != nullptr;
 }
 
 bool IsUnnamed(const CKTXMLElement* item) {

@@ -12,11 +12,11 @@ namespace {
 std::vector<std::string_view> NamesUpwards(const CKTXMLElement* e) {
     std::vector<std::string_view> names;
     for (; e != nullptr; e = e->getParent()) {
-        const CKTXMLAttribute* name = e->getAttribute("name");
+        const std::string* name = AttributeValue(e, "name");
         if (name == nullptr) {
             break;
         }
-        names.push_back(name->getValue());
+        names.push_back(*name);
     }
     return names;
 }
@@ -42,10 +42,10 @@ CKTQualifiedName::CKTQualifiedName(const CKTXMLElement* e) : m_pElement(e) {
 CKTQualifiedName CKTQualifiedName::Below(const CKTXMLElement* e) const {
     CKTQualifiedName result(nullptr);
     result.m_pElement = e;
-    if (const CKTXMLAttribute* name = e->getAttribute("name")) {
+    if (const std::string* name = AttributeValue(e, "name")) {
         // An element below an unnamed one begins a name of its own.
         const std::uint64_t above = m_bNamed ? Continue(m_nHash, ".") : kStart;
-        result.m_nHash = Continue(above, name->getValue());
+        result.m_nHash = Continue(above, *name);
         result.m_bNamed = true;
     }
     return result;
@@ -54,7 +54,7 @@ CKTQualifiedName CKTQualifiedName::Below(const CKTXMLElement* e) const {
 bool CKTQualifiedName::Is(std::string_view text) const {
     bool last = true;
     for (const CKTXMLElement* e = m_pElement; e != nullptr; e = e->getParent()) {
-        const CKTXMLAttribute* name = e->getAttribute("name");
+        const std::string* name = AttributeValue(e, "name");
         if (name == nullptr) {
             break;
         }
@@ -65,10 +65,10 @@ bool CKTQualifiedName::Is(std::string_view text) const {
             text.remove_suffix(1);
         }
         // Compared from the end, where names differ: groups share their beginnings.
-        if (!text.ends_with(name->getValue())) {
+        if (!text.ends_with(*name)) {
             return false;
         }
-        text.remove_suffix(name->getValue().size());
+        text.remove_suffix(name->size());
         last = false;
     }
     return text.empty();

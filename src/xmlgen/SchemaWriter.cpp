@@ -25,13 +25,13 @@ void ReportForeignNamespace(bool group, std::string_view uri) {
 }
 
 void ReportRange(const CKTXMLElement* range) {
-    const CKTXMLAttribute* name =
-        range->isParent() ? range->getParent()->getAttribute("name") : nullptr;
+    const std::string* name =
+        range->isParent() ? AttributeValue(range->getParent(), "name") : nullptr;
     if (name == nullptr) {
         return;
     }
-    Report<XmlgenMessage::Range>(name->getValue());
-    Report<XmlgenMessage::NoEnumerators>(name->getValue());
+    Report<XmlgenMessage::Range>(*name);
+    Report<XmlgenMessage::NoEnumerators>(*name);
 }
 
 /// A length counts as far as it begins with digits; a sign is none.
@@ -268,7 +268,7 @@ void CKTSchemaWriter::WriteFacets(const DictionaryItem& item, const CKTItemClaus
 
 void CKTSchemaWriter::WriteConstant(const CKTXMLElement* constant, unsigned indent) {
     const CKTXMLElement* condition = constant->getParent();
-    const CKTXMLAttribute* value = constant->getAttribute("value");
+    const std::string* value = AttributeValue(constant, "value");
     if (value == nullptr || !IsCondition(DictionaryKindOf(condition))) {
         return;
     }
@@ -282,7 +282,7 @@ void CKTSchemaWriter::WriteConstant(const CKTXMLElement* constant, unsigned inde
         WriteRestriction("string", indent);
     }
     m_Markup.AddTag("enumeration", indent + 9);
-    m_Markup.AddAttribute("value", LiteralValue(value->getValue()));
+    m_Markup.AddAttribute("value", LiteralValue(*value));
     m_Markup.Add("/>\n");
     if (constant == enumeration.last) {
         m_Markup.Add("</restriction>\n", indent + 6);
@@ -320,7 +320,7 @@ CKTSchemaWriter::Enumeration CKTSchemaWriter::FindEnumeration(const CKTXMLElemen
         enumeration.hasRange = enumeration.hasRange || BeginsWithRange(condition);
         for (const CKTXMLElement* value = condition->getFirstChildElem(); value != nullptr;
              value = value->getNextSibling()) {
-            if (IsConstant(DictionaryKindOf(value)) && value->getAttribute("value") != nullptr &&
+            if (IsConstant(DictionaryKindOf(value)) && AttributeValue(value, "value") != nullptr &&
                 !IsRedefinition(value)) {
                 enumeration.last = value;
                 if (enumeration.first == nullptr) {
