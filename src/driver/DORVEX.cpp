@@ -1,7 +1,5 @@
-// main and nothing else: prepares the process, chooses one of three runs, and makes the exit
-// status. Runs return here, so that the streams are given back in one place; a run that was stopped
-// brings its status, any other leaves it to what was counted. Whatever throws past a run ends in
-// one line.
+// main and nothing else: prepares the process, chooses one of three runs, which return here, gives
+// the streams back and makes the exit status. Whatever throws past a run ends in one line.
 
 #include <clocale>
 #include <csignal>
@@ -70,7 +68,6 @@ int main(int argc, char** argv) {
     std::optional<int> status;
     try {
         status = Run(argc, argv);
-        // A run that was stopped leaves the rule of an earlier one as it is.
         if (!status) {
             WriteDependencyFile(DependencyFileName());
         }

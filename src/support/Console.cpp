@@ -115,7 +115,6 @@ void OpenLog() {
         state.savedOutput = std::cout.rdbuf();
         std::cout.rdbuf(&state.logOutput.emplace(state.log, state.savedOutput));
         std::cerr.rdbuf(&state.logErrors.emplace(state.log, std::cerr.rdbuf()));
-        // From here the banner belongs at the top of the log.
         state.output = std::cout.rdbuf();
     }
     DisplayHeader();
