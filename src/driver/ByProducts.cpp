@@ -1,5 +1,6 @@
 // Tells the compiler's by-products from the user's files by stamps that are taken before and after
-// it ran. The dictionary needs none: its name is only given away when no file goes by it.
+// it ran. The dictionary needs none: its name is only given away when no file goes by it. After a
+// failed compile nothing is deleted; that is wanted, and so is the order of deletion.
 
 #include "driver/ByProducts.h"
 
@@ -10,6 +11,7 @@
 namespace {
 
 bool AreSame(const struct stat& a, const struct stat& b) {
+    // Device and inode tell a replaced file, size and time one that was written.
     return a.st_dev == b.st_dev && a.st_ino == b.st_ino && a.st_size == b.st_size &&
            a.st_mtim.tv_sec == b.st_mtim.tv_sec && a.st_mtim.tv_nsec == b.st_mtim.tv_nsec;
 }
@@ -41,6 +43,7 @@ void CKTByProducts::Delete() const {
 }
 
 void CKTByProducts::DeleteWritten(const std::string& name, const CKTFileStamp& before) {
+    // A file that was not there before counts as written.
     if (!CKTFileStamp(name).IsStill(before)) {
         ::unlink(name.c_str());
     }

@@ -9,7 +9,7 @@
 /// leads to, so that writing through it shows.
 class CKTFileStamp {
 public:
-    /// Takes the stamp of the file `name` as it is now.
+    /// Takes the stamp of the file `name` as it is now; a file that is not there has one too.
     explicit CKTFileStamp(const std::string& name);
 
     /// Says whether the file was there both times and nobody wrote or replaced it in between.
@@ -26,7 +26,8 @@ private:
 /// compiler's debugger and code files beside it. Made before the compiler starts.
 class CKTByProducts {
 public:
-    /// `temporaryCopy` is empty when the source itself is compiled.
+    /// `dictionary` is the file that the compiler is going to write. `temporaryCopy` is empty when
+    /// the source itself is compiled.
     CKTByProducts(const std::string& dictionary, std::string temporaryCopy);
 
     /// Deletes them. A file that cannot be deleted stays, and so does a debugger or code file of

@@ -1,6 +1,8 @@
 // The compiler runs in a child of its own, or, with the log, in a shell below the child whose
 // output is relayed. A child that found no compiler, or has relayed one, goes on as if it were the
-// parent and ends as a failed compile.
+// parent and ends as a failed compile. So with the log every COBOL run ends there, whatever the
+// compiler says; that is wanted. Only the exit byte is judged: a dictionary that is missing is
+// found when it is read.
 
 #include "driver/CobolCompiler.h"
 
@@ -57,6 +59,7 @@ void ExecuteIntoLog(const std::vector<std::string>& words) {
     for (const std::string& word : words) {
         command += ShellWord(word) + " ";
     }
+    // What the compiler says on either stream belongs in the log and not on the terminal.
     command += "2>&1";
     std::FILE* output = ::popen(command.c_str(), "r");
     if (output == nullptr) {
@@ -64,6 +67,7 @@ void ExecuteIntoLog(const std::vector<std::string>& words) {
     }
     std::array<char, kRelaySize> piece{};
     while (std::fgets(piece.data(), piece.size(), output) != nullptr) {
+        // Counted in the child alone, whose counters end with it.
         std::cerr << piece.data();
     }
     ::pclose(output);
@@ -83,6 +87,7 @@ CompilerResult RunCobolCompiler(const std::string& directives, const std::string
         return CompilerResult::NotStarted;
     }
     if (child == 0) {
+        // The compiler would inherit that it is ignored.
         std::signal(SIGPIPE, SIG_DFL);
         const std::vector<std::string> words = CompilerArguments(directives, compileName);
         if (IsLogOpen()) {

@@ -63,6 +63,7 @@ bool MakeTemporaryCopy(const std::string& source, bool readable, FileNames& name
 bool ChooseNames(const Settings& settings, FileNames& names) {
     const std::string& source = settings.sourceName;
     std::string extension = my_strrchr(source.c_str(), ".");
+    // A name that is all extension has none.
     if (extension.size() == source.size()) {
         extension.clear();
     }
@@ -176,6 +177,7 @@ int WriteOutputs(CKTDOMParser& parser, const Settings& settings, const FileNames
     CKTXMLCOBOLExternalMapping mapping;
     CKTXMLGenerator generator;
     generator.setCOBOLDataDictionary(root.get());
+    // The dictionary is in memory, so no stop that follows leaves a by-product behind.
     byProducts.Delete();
     if (!generator.HasRecord()) {
         if (generator.HasProgram()) {
@@ -206,6 +208,7 @@ std::optional<int> RunCobolToSchema(const Settings& settings) {
     if (!ChooseNames(settings, names)) {
         return 1;
     }
+    // Takes its stamps before the compiler runs.
     const CKTByProducts byProducts(names.dictionary, names.temporaryCopy);
     if (!Compile(settings, names)) {
         return 1;

@@ -1,3 +1,9 @@
+// The command line, read once from left to right, after one look ahead for the log. An option is
+// found by the first row of the table whose name the argument begins with, so "-Cname" holds its
+// value and "-quiet" is -Q. The last value of an option counts. -V ends the reading: what follows
+// it is ignored. The usage text keeps silent about -Q, -LOG, -? and -HELP, and -X shares its
+// setting with the .XSD file argument; both are wanted. Whether files exist is left to the runs.
+
 #include "driver/CommandLine.h"
 
 #include <algorithm>
@@ -55,6 +61,7 @@ Options:
 
 )";
 
+/// The period and three letters. What follows them does not count: ".xsdx" is taken for ".XSD".
 constexpr int kExtensionLength = 4;
 
 /// One option: recognised by its name as a case-insensitive prefix; a value option fills `value`, a
@@ -86,6 +93,8 @@ bool StartsWith(const char* argument, const char* start) {
 }
 
 /// Marks the kind of source that a file argument gives, unless the other kind was given before.
+/// Only the first file argument gets as far as this, so the complaint guards a state that does not
+/// come about.
 void MarkSource(const std::string& name, bool otherGiven, bool& given) {
     if (otherGiven) {
         Report<DriverMessage::IgnoredFile>(name);
@@ -94,6 +103,7 @@ void MarkSource(const std::string& name, bool otherGiven, bool& given) {
     }
 }
 
+/// Takes the first file argument; a further one is a warning, and the run goes on without it.
 std::optional<int> TakeFileArgument(const std::string& name, Settings& settings) {
     if (!settings.firstName.empty()) {
         Report<DriverMessage::SecondSource>(settings.firstName, name);
@@ -119,7 +129,8 @@ std::optional<int> TakeFileArgument(const std::string& name, Settings& settings)
 }
 
 /// Judges the document named by -V. The names that other arguments gave no longer count: one
-/// document is validated.
+/// document is validated. An unknown type ends the program without the usage text, unlike that of a
+/// file argument.
 std::optional<int> TakeValidationName(Settings& settings) {
     settings.schemaName.clear();
     settings.instanceName.clear();
@@ -142,11 +153,13 @@ bool HasExtension(const std::string& name, const char* extension) {
 
 void Usage() {
     if (!IsQuiet()) {
+        // Through the counting operator, so that the banner precedes it.
         std::cout << kUsageText.data();
     }
 }
 
 void ScanForLog(int argc, char** argv) {
+    // -P and -V are left out on purpose: behind them "-log" opens the log and is their value too.
     static constexpr std::array kValueOptions = {"-C", "-X", "-M", "-D"};
     for (int i = 1; i < argc; ++i) {
         const bool isValue =
@@ -162,12 +175,14 @@ void ScanForLog(int argc, char** argv) {
 std::optional<int> ReadCommandLine(int argc, char** argv, Settings& settings) {
     for (int i = 1; i < argc; ++i) {
         const char* argument = argv[i];
+        // An empty argument is a file name as well, of no known type.
         if (*argument != '-') {
             if (const std::optional<int> status = TakeFileArgument(argument, settings)) {
                 return status;
             }
             continue;
         }
+        // These two are compared as a whole: "-helpme" is no option.
         if (my_stricmp(argument, "-?") == 0 || my_stricmp(argument, "-HELP") == 0) {
             Usage();
             return 0;
@@ -185,9 +200,11 @@ std::optional<int> ReadCommandLine(int argc, char** argv, Settings& settings) {
         if (option->flag != nullptr) {
             settings.*(option->flag) = option->state;
         }
+        // Every option before it has had its effect, -Q among them.
         if (settings.validate) {
             return TakeValidationName(settings);
         }
+        // At once and not after the pass, so complaints of options before it are seen.
         if (StartsWith(option->name, "-Q")) {
             SilenceOutput();
         }
@@ -207,6 +224,7 @@ int ProcessCmdLineNameValue(int argc, char** argv, int index, const char* option
         value = argv[index] + length;
         return index;
     }
+    // The next argument is the value whatever it looks like, an option included.
     if (index + 1 < argc) {
         value = argv[index + 1];
     } else {

@@ -4,7 +4,9 @@
 #include <optional>
 #include <string>
 
-/// What the command line asks for. Texts that were not given are empty.
+/// What the command line asks for, as plain values for the run that is chosen. Texts that were not
+/// given are empty; names are bytes, as given. A slot that several arguments share holds the last
+/// one.
 struct Settings {
     std::string firstName;      ///< the first file argument, or the value of -V
     std::string sourceName;     ///< a .CBL, .CPY or .XML file argument
@@ -32,8 +34,10 @@ void Usage();
 /// Opens the log when a -LOG option is on the command line that is not the value of another option.
 void ScanForLog(int argc, char** argv);
 
-/// Reads the options and the file argument into `settings`; messages go to standard output. Returns
-/// the exit status when the program is to end here, nothing when a run is to be chosen.
+/// Reads the options and the file argument into `settings`, which holds the defaults before;
+/// messages go to standard output. Returns the exit status when the program is to end here, 0 after
+/// a call for help and 1 after a complaint, nothing when a run is to be chosen. -Q silences
+/// standard output as soon as it is read.
 std::optional<int> ReadCommandLine(int argc, char** argv, Settings& settings);
 
 /// Reads the value of the option `option` (such as "-C") that argument `index` begins with: the

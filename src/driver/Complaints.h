@@ -5,7 +5,11 @@
 
 #include "support/Message.h"
 
-/// What command line, runs and the compilation have to say.
+/// What command line, runs and the compilation have to say. Wording, doubled blanks and the blank
+/// at the end of a line included, is what users' scripts read and stays. The lines that tell what a
+/// run does, and "Failed to ..." behind a summary, have no severity and count as nothing. Whether a
+/// line goes to standard output or standard error is as settled as its text: a fault and a source
+/// that cannot be read go to standard error, all others to standard output.
 enum class DriverMessage {
     InvalidOption,
     IncompleteOption,

@@ -1,3 +1,6 @@
+// main and nothing else: prepares the process, chooses one of three runs, which return here, gives
+// the streams back and makes the exit status. Whatever throws past a run ends in one line.
+
 #include <clocale>
 #include <csignal>
 #include <iostream>
@@ -17,6 +20,7 @@
 namespace {
 
 /// Returns the exit status of a run that was stopped, nothing when the counted messages make it.
+/// The log is opened before the options are read, so that their complaints are in it.
 std::optional<int> Run(int argc, char** argv) {
     if (argc <= 1) {
         Usage();
@@ -28,6 +32,7 @@ std::optional<int> Run(int argc, char** argv) {
         return status;
     }
     DisplayHeader();
+    // -V comes first: a file argument before it may have chosen a run already.
     if (settings.validate) {
         return RunValidation(settings);
     }
@@ -49,12 +54,14 @@ int StopWith(const std::string& fault) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    // Before anything is opened, which might get their numbers.
     OccupyStandardStreams();
     std::setlocale(LC_ALL, "");
     // A reader that went away, or a file grown to its limit, is an output that cannot be written,
     // not the end of the process.
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
+    // Exchanges the buffers of the streams, so it comes before whatever keeps them.
     std::ios::sync_with_stdio(false);
     StartProgress();
     RaiseStackLimit();

@@ -1,5 +1,7 @@
 // One make rule about a finished run. Names are escaped as compilers escape them, which make and
-// other build tools read alike; a name with a line break has no escaped form and is left out.
+// other build tools read alike; a name with a line break has no escaped form and is left out. What
+// was read but is gone, such as the dictionary and a temporary copy, is no dependency, and neither
+// is a mapping file that the run wrote before it read it. Without a rule an old file stays.
 
 #include "driver/DependencyFile.h"
 
@@ -19,6 +21,8 @@ std::string Escaped(std::string_view path) {
     std::size_t backslashes = 0;
     for (const char c : path) {
         if (c == ' ' || c == '\t' || c == '#' || c == ':') {
+            // Backslashes before such a character quote each other, so those of the name are
+            // doubled.
             text.append(backslashes + 1, '\\');
         } else if (c == '$') {
             text += '$';
@@ -33,6 +37,7 @@ bool HasEscapedForm(const std::string& path) {
     return path.find_first_of("\r\n") == std::string::npos;
 }
 
+/// Compares files, not names. A run has at most three outputs, so a search is enough.
 bool IsOneOf(const std::vector<std::string>& outputs, const std::string& path) {
     return std::any_of(outputs.begin(), outputs.end(), [&](const std::string& output) {
         std::error_code error;
@@ -49,6 +54,7 @@ std::string DependencyRule(const FilesUsed& files) {
             rule += (rule.empty() ? "" : " ") + Escaped(output);
         }
     }
+    // A rule about half an output would make a build believe that it is up to date.
     if (rule.empty() || !files.areOutputsWritten) {
         return {};
     }

@@ -9,8 +9,8 @@
 /// and all of them were written. Files that are gone or are outputs themselves are no dependencies.
 std::string DependencyRule(const FilesUsed& files);
 
-/// Writes the rule of this run to the file `name`. Without a name or a rule nothing is done; a file
-/// that cannot be written is an error line.
+/// Writes the rule of this run to the file `name`, replacing what is there. Without a name or a
+/// rule nothing is done; a file that cannot be written is an error line, counted.
 void WriteDependencyFile(const std::string& name);
 
 #endif

@@ -1,4 +1,6 @@
-// The settings that come from the environment and not from the command line.
+// The settings that come from the environment and not from the command line. Either one, when
+// set to nothing, is as if it were not set. The names of heads keep their order and may repeat. The
+// variables of catalogs and of the network are looked at where inputs are opened.
 
 #include "driver/Environment.h"
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-/// The names in DORVEX_HEADS, parted by blanks or commas: the global elements to convert instead of
-/// those that nothing refers to. None when it is not set.
+/// The names in DORVEX_HEADS, in order, parted by white space or commas: the global elements to
+/// convert instead of those that nothing refers to. None when it is not set.
 std::vector<std::string> ChosenHeads();
 
 /// The file that DORVEX_DEPFILE names; empty when it is not set.

@@ -5,6 +5,9 @@
 
 #include "driver/CommandLine.h"
 
+/// The three runs. Each owns its parser and all that is made from its trees, reports what goes
+/// wrong itself, and leaves it to the caller to give the streams back.
+
 /// Checks the schema or instance document that `settings` names and writes no files. Returns the
 /// exit status of a run that was stopped, nothing when the counted messages make it.
 std::optional<int> RunValidation(const Settings& settings);

@@ -1,3 +1,8 @@
+// The steps of a run from schema to copybook, in order: load the schema with all that it reaches,
+// read the trees of the set, ask about an existing copybook, write it, sum up. The first step alone
+// can stop the run; what the later ones find is counted. -X, -M and -D have no effect here. The
+// copybook stands beside the schema and, unlike that of a COBOL run, has no "-dorvex" in its name.
+
 #include <iostream>
 #include <memory>
 #include <string_view>
@@ -22,6 +27,7 @@ std::string DefaultCopybookName(const std::string& schemaName) {
     return schemaName.substr(0, schemaName.size() - extension) + ".cpy";
 }
 
+/// Guards the run: a command line that chooses it always names a schema.
 int StopWithoutNames(const Settings& settings) {
     Report<DriverMessage::NoSchemaName>();
     if (settings.copybookName.empty()) {
@@ -35,10 +41,13 @@ void WriteCopybook(CKTDOMParser& parser, const Settings& settings, const std::st
     const std::unique_ptr<CKTXMLElement> root = parser.getXMLDocument();
     CKTLoadedSchemaFiles files(parser);
     CKTSchemaSet set(files);
+    // Loads what the schema includes and imports, and says so, before any question is asked.
     CKTXMLSchemaDoc document(root.get(), nullptr, schemaPath, set);
     CKTCOBOLGenerator generator(&document);
     generator.ChooseHeads(ChosenHeads());
     const bool prompt = settings.promptForOverwrite;
+    // Without prompting an existing file is overwritten. A declined one ends the run without a
+    // summary.
     if (FileExists(copybookName, prompt) && prompt) {
         return;
     }
@@ -61,10 +70,12 @@ std::optional<int> RunSchemaToCobol(const Settings& settings) {
     if (!parser.ParseFile(schemaName, CKTDOMParser::XML_SCHEMA, true)) {
         std::cout << "\n";
         parser.DisplayErrorSummary();
+        // Behind the summary, and counted as nothing: the summary has told the errors.
         Report<DriverMessage::NotCreated>(copybookName);
         return 1;
     }
     Report<DriverMessage::NoSchemaErrors>(schemaName);
+    // The document goes by the full name of the file that was opened, a catalog's included.
     const std::string schemaPath = OpenedLocation(schemaName);
     WriteCopybook(parser, settings, schemaPath, copybookName);
     return {};

@@ -1,3 +1,8 @@
+// The run that checks one document and writes nothing. A schema is loaded, a document is passed
+// over twice, first without and then with validation; the line of the first pass speaks of schema
+// conformity all the same. What both find is said and counted twice. All that is wanted. No result
+// makes the exit status: the messages counted do.
+
 #include <iostream>
 
 #include "driver/Complaints.h"
@@ -33,6 +38,7 @@ std::optional<int> RunValidation(const Settings& settings) {
     if (!settings.schemaName.empty()) {
         parser.ParseFile(settings.schemaName, CKTDOMParser::XML_SCHEMA, true);
     } else if (settings.instanceName.empty()) {
+        // A guard: -V sets one of the two or ends the program.
         Report<DriverMessage::NoSchemaName>();
         return 1;
     } else {

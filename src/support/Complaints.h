@@ -5,7 +5,9 @@
 
 #include "support/Message.h"
 
-/// What console and files have to say.
+/// What console and files have to say. The wording is what users' scripts read, the blank at the
+/// end of a line included; nothing here is mended. What the terminal is asked or shown is no line
+/// of its own and stands as a part.
 enum class SupportMessage {
     Banner,
     BytesRead,

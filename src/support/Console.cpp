@@ -1,3 +1,10 @@
+// What all output to the console shares: the counters, the banner, the log and silence. Streams are
+// led elsewhere by exchanging their buffers, so that no place that writes has to know; the state
+// keeps the buffers to give back. The counting operator takes plain character strings only. Objects
+// such as std::string go past it, uncounted, which the parser's error handler and the outputs rely
+// on. The question about an existing file is the one thing that reaches the terminal while the log
+// takes all else.
+
 #include "support/Console.h"
 
 #include <array>
@@ -31,6 +38,7 @@ struct ConsoleState {
     bool quiet = false;
 };
 
+/// Made on first use: by then the streams have the buffers that they are to get back.
 ConsoleState& State() {
     static ConsoleState state;
     return state;
@@ -41,6 +49,8 @@ struct CountedSeverity {
     int* counter;
 };
 
+/// None begins like another one, so the order does not matter. A fatal error is not among them: the
+/// parser's error handler counts its own.
 constexpr std::array kCountedSeverities = {
     CountedSeverity{kErrorSeverity, &m_nErrorCount},
     CountedSeverity{kInternalErrorSeverity, &m_nErrorCount},
@@ -62,6 +72,7 @@ std::ostream& operator<<(std::ostream& stream, char* text) {
     if (stream.rdbuf() == nullptr) {
         return stream;
     }
+    // By buffer, not by stream: a stream that was given the buffer of one of the two counts too.
     if (stream.rdbuf() == std::cout.rdbuf() || stream.rdbuf() == std::cerr.rdbuf()) {
         CountMessage(text);
     }
@@ -77,6 +88,8 @@ std::ostream& operator<<(std::ostream& stream, char* text) {
 }
 
 std::ostream& operator<<(std::ostream& stream, const char* text) {
+    // Both kinds of string have to come here, or the library's own operator takes one of them;
+    // nothing writes to the text.
     return stream << const_cast<char*>(text);
 }
 
@@ -86,6 +99,8 @@ void DisplayHeader() {
         return;
     }
     state.bannerShown = true;
+    // Past the stream: standard output may be lent to an output file at this moment, and a banner
+    // is no message to be counted.
     const std::string banner = MessageText<SupportMessage::Banner>() + '\n';
     state.output->sputn(banner.data(), static_cast<std::streamsize>(banner.size()));
     state.output->pubsync();
@@ -93,6 +108,7 @@ void DisplayHeader() {
 
 void OpenLog() {
     ConsoleState& state = State();
+    // What goes into the log wipes no line off the terminal, so none may stand there.
     StopProgress();
     const bool opened = state.log.Open(kLogName);
     if (opened) {
@@ -111,7 +127,10 @@ void SilenceOutput() {
     ConsoleState& state = State();
     StopProgress();
     std::cout.flush();
+    // Without a buffer the stream fails on every write, which drops the text.
     std::streambuf* current = std::cout.rdbuf(nullptr);
+    // With the log open, what is to be given back is the console, not the log. The log then holds
+    // what goes to standard error.
     if (state.savedOutput == nullptr) {
         state.savedOutput = current;
     }
@@ -142,6 +161,7 @@ void RestoreStreams() {
         std::cerr.rdbuf(state.logErrors->Console());
         state.logErrors.reset();
         state.logOutput.reset();
+        // Reported when the streams are back, so that somebody sees it.
         if (!state.log.Close()) {
             Report<SupportMessage::UnwritableOutput>(kLogName);
         }
@@ -153,6 +173,7 @@ void TerminateProgram(int status) {
 }
 
 int ExitStatus() {
+    // The system keeps eight bits of a status. A sum of 256 must not look like success.
     const auto sum = static_cast<unsigned>(m_nErrorCount) + static_cast<unsigned>(m_nWarningCount);
     const int status = static_cast<int>(sum & 0xFFU);
     return sum != 0 && status == 0 ? 255 : status;

@@ -1,3 +1,9 @@
+// Files as the runs need them: is an output in the way and may it go, is an input there, a plain
+// copy, a free name, and an output that standard output is lent to. Names are bytes and go to the
+// system as they are given. The copy ends each line with a line feed and so adds an empty line to a
+// source that ends with one; that is wanted. A file is opened, not looked up, to find out whether
+// it is there, so one that must not be read counts as absent.
+
 #include "support/Files.h"
 
 #include <fcntl.h>
@@ -23,6 +29,7 @@
 
 namespace {
 
+/// Outputs are written in many short pieces.
 constexpr std::size_t kOutputBufferSize = 65536;
 
 /// Reads one line of at most the answer buffer's size from standard input and drops the rest of a
@@ -31,9 +38,12 @@ bool ReadAnswer(std::string& answer) {
     std::array<char, kMaxAnswerSize> buffer{};
     std::cin.getline(buffer.data(), buffer.size());
     answer = buffer.data();
+    // A last line without a line feed is an answer like any other.
     if (std::cin.eof() && answer.empty()) {
         return false;
     }
+    // Too long for the buffer, so no answer; its rest must not be taken for the next one. An input
+    // that never ends a line ends the question instead.
     if (std::cin.fail() && !std::cin.bad()) {
         std::cin.clear();
         std::cin.ignore(kMaxAnswerRest, '\n');
@@ -51,6 +61,7 @@ bool AskToKeep(const std::string& name) {
         std::cerr << MessageText<SupportMessage::Overwrite>(name).c_str();
         std::string answer;
         const bool more = ReadAnswer(answer);
+        // The key that ended the answer has ended the line of the question on the terminal too.
         if (more && ::isatty(STDIN_FILENO) != 0) {
             ReportLineTyped();
         }
@@ -90,6 +101,7 @@ bool FileExists(const std::string& name, bool prompt) {
     }
     if (::close(file) != 0) {
         Report<SupportMessage::CannotClose>(name);
+        // main is not reached again, which would do this.
         RestoreStreams();
         std::exit(1);
     }
@@ -106,6 +118,7 @@ bool IsReadable(const std::string& name) {
 bool CopyFileToFile(const std::string& from, const std::string& to) {
     std::ifstream input(from, std::ios::binary);
     std::ofstream output;
+    // A source that cannot be read must not empty the file it was to go to.
     if (input.is_open()) {
         output.open(to, std::ios::binary | std::ios::trunc);
     }
@@ -113,11 +126,13 @@ bool CopyFileToFile(const std::string& from, const std::string& to) {
     std::string line;
     while (writable && output.good() && !input.eof()) {
         std::getline(input, line);
+        // A read error. At the end of the input, getline fails too, and its empty line is copied.
         if (!input.eof() && input.fail()) {
             break;
         }
         output << line << '\n';
     }
+    // What is still buffered may be what the disk does not take.
     output.close();
     if (writable && output.fail()) {
         Report<SupportMessage::UnwritableOutput>(to);
@@ -145,11 +160,14 @@ std::string GetTemporaryFilename(const char* extensions) {
             continue;
         }
         std::string const reserved = stem + (endings.empty() ? "" : endings.back());
+        // Created only if it is not there, so that two runs in one directory never share a name. Of
+        // the others it is enough that they are free: the compiler makes them.
         const int file = ::open(reserved.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
         if (file >= 0) {
             ::close(file);
             return stem;
         }
+        // Somebody was quicker: try another name. Anything else would go on for ever.
         if (errno != EEXIST) {
             Report<SupportMessage::UnwritableOutput>(reserved);
             return {};
@@ -175,6 +193,7 @@ std::string ProcessSpaceyFilename(const std::string& name, std::FILE* trace) {
 }
 
 CKTOutputFile::CKTOutputFile(const std::string& name) : m_Buffer(kOutputBufferSize), m_sName(name) {
+    // Before the file is opened; later the library takes no buffer.
     m_File.rdbuf()->pubsetbuf(m_Buffer.data(), static_cast<std::streamsize>(m_Buffer.size()));
     if (name.empty()) {
         return;
@@ -187,6 +206,7 @@ CKTOutputFile::CKTOutputFile(const std::string& name) : m_Buffer(kOutputBufferSi
         // Otherwise each message on standard error would flush the file.
         m_pSavedTie = std::cerr.tie(nullptr);
     } else {
+        // Without a message: the caller has words of its own for it.
         NoteOutput(name, false);
     }
 }
@@ -197,6 +217,8 @@ CKTOutputFile::~CKTOutputFile() {
 
 bool CKTOutputFile::Close() {
     std::cout.flush();
+    // Asked before the buffer is exchanged, which clears the state of the stream, so that a full
+    // disk does not silence the console.
     bool written = std::cout.good() || std::cout.rdbuf() == nullptr;
     if (m_bRedirected) {
         std::cout.rdbuf(m_pSavedBuffer);

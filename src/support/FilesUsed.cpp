@@ -1,4 +1,6 @@
-// The one list of what this process reads and writes, from which its dependencies are told.
+// The one list of what this process reads and writes, from which its dependencies are told. Files
+// are told apart by device and inode, since one file goes by many names; the first name stays. A
+// path that is gone or no regular file when it is noted is left out, without a message.
 
 #include "support/FilesUsed.h"
 
@@ -30,6 +32,7 @@ void NoteFileRead(const std::string& path) {
 }
 
 void NoteOutput(const std::string& path, bool isWritten) {
+    // Not made unique, unlike the files read: a name comes twice when two outputs were given it.
     State().files.outputs.push_back(path);
     State().files.areOutputsWritten = State().files.areOutputsWritten && isWritten;
 }

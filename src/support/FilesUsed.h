@@ -17,6 +17,7 @@ struct FilesUsed {
     std::vector<std::string> outputs;
     bool areOutputsWritten = true;  ///< every one of them, completely
 };
+/// The list lives as long as the process and grows with every file noted.
 const FilesUsed& UsedFiles();
 
 #endif

@@ -1,5 +1,7 @@
 // The log is written through its file descriptor, so that it is known which text it did not take:
-// that text is shown on the console instead of being lost.
+// that text is shown on the console instead of being lost. The first failure is reported and lasts:
+// what follows goes to the console at once. Each stream has a buffer of its own over the one file,
+// and the order in it is that of their flushes.
 
 #include "support/LogFile.h"
 
@@ -12,6 +14,7 @@
 
 namespace {
 
+/// Bounds what a stream that is never flushed keeps.
 constexpr std::size_t kMostPending = 8192;
 
 }  // namespace
@@ -34,6 +37,7 @@ void CKTLogFile::Write(std::string_view text, std::streambuf& console) {
         if (count > 0) {
             text.remove_prefix(static_cast<std::size_t>(count));
         } else {
+            // A signal is no failure. A write that takes nothing would be tried for ever.
             m_bFailed = count == 0 || errno != EINTR;
         }
     }
@@ -41,6 +45,8 @@ void CKTLogFile::Write(std::string_view text, std::streambuf& console) {
         console.sputn(text.data(), static_cast<std::streamsize>(text.size()));
         console.pubsync();
     }
+    // Behind the text, and with the failure noted: the report comes back here through standard
+    // error and has to go to the console.
     if (m_bFailed && !failedBefore) {
         Report<SupportMessage::UnwritableOutput>(m_sName);
     }
@@ -49,6 +55,7 @@ void CKTLogFile::Write(std::string_view text, std::streambuf& console) {
 bool CKTLogFile::Close() {
     const int file = m_nFile;
     m_nFile = -1;
+    // What failed before has been reported then.
     return file < 0 || ::close(file) == 0 || m_bFailed;
 }
 

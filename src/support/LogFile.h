@@ -18,11 +18,12 @@ public:
     bool Open(const char* name);
     [[nodiscard]] bool IsOpen() const { return m_nFile >= 0; }
 
-    /// Appends `text`; what the file does not take goes to `console`, and the file is reported as
-    /// an output that cannot be written.
+    /// Appends `text`, unbuffered; what the file does not take goes to `console`. The first time
+    /// that happens, the file is reported as an output that cannot be written.
     void Write(std::string_view text, std::streambuf& console);
 
-    /// Closes the file. Returns false when the system only now says that something is missing.
+    /// Closes the file, which may be closed already. Returns false when the system only now says
+    /// that something is missing; after an earlier failure, which was reported, it returns true.
     bool Close();
 
 private:
@@ -35,12 +36,14 @@ private:
 /// stream is flushed; a buffer of one stream and that of another share nothing but the file.
 class CKTLogBuffer : public std::streambuf {
 public:
-    /// Borrows both.
+    /// Borrows both, which outlive it. Writes nothing when it ends: flush it first.
     CKTLogBuffer(CKTLogFile& log, std::streambuf* console) : m_Log(log), m_pConsole(console) {}
 
+    /// The buffer that the stream had before, to be given back to it.
     [[nodiscard]] std::streambuf* Console() const { return m_pConsole; }
 
 protected:
+    /// None of them fails: text that the log does not take is shown on the console.
     int_type overflow(int_type c) override;
     std::streamsize xsputn(const char* text, std::streamsize count) override;
     int sync() override;

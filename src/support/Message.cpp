@@ -1,3 +1,7 @@
+// Puts values into the texts of the message tables and hands whole lines to the counting output
+// operator. A value is never searched for places, so it may hold braces. Which message goes where
+// is settled in the tables; counting, banner and flushing are left to the operator.
+
 #include "support/Message.h"
 
 #include <iostream>
@@ -22,5 +26,6 @@ std::string FillMessage(std::string_view severity, std::string_view text,
 
 void WriteMessage(MessageStream stream, std::string line) {
     line += '\n';
+    // As a plain character string: a string object would pass by the counting operator.
     (stream == MessageStream::Output ? std::cout : std::cerr) << line.c_str();
 }

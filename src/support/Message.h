@@ -27,7 +27,8 @@ struct MessageRow {
     std::string_view text;
 };
 
-/// The messages of the room that owns the enumeration `Id`, an array of rows.
+/// The messages of the room that owns the enumeration `Id`, an array of rows. An enumeration
+/// without a table has none, so that using it is an error of the build.
 template <typename Id>
 inline constexpr std::nullptr_t kMessages = nullptr;
 
@@ -44,10 +45,13 @@ constexpr bool AreInOrder(const Rows& rows) {
 std::string FillMessage(std::string_view severity, std::string_view text,
                         std::initializer_list<std::string_view> values);
 
-/// Writes a line to a standard stream through the counting output operator.
+/// Writes `line` and a line end to a standard stream through the counting output operator, in one
+/// piece: the operator looks at the beginning of what it is given. Anything but Output means
+/// standard error.
 void WriteMessage(MessageStream stream, std::string line);
 
-/// A value as it is shown: a whole number in digits, a text as it is.
+/// A value as it is shown: a whole number in digits, a text as it is. A text is borrowed from the
+/// caller for the length of the call.
 template <typename Value>
 auto ShownValue(const Value& value) {
     if constexpr (std::is_integral_v<Value>) {
@@ -57,7 +61,9 @@ auto ShownValue(const Value& value) {
     }
 }
 
-/// The message `kId` without a line end. A value is a text or a whole number.
+/// The message `kId` without a line end, for a caller that writes it itself. A value is a text or a
+/// whole number; another number of values than the text has places is an error of the build. Counts
+/// nothing.
 template <auto kId, typename... Values>
 std::string MessageText(const Values&... values) {
     constexpr const auto& row = kMessages<decltype(kId)>.at(static_cast<std::size_t>(kId));

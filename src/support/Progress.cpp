@@ -1,6 +1,8 @@
 // The line is drawn past the streams, and stream buffers put before those of the streams see to it
 // that it is gone before anything else arrives. There is no timer: the clock is looked at when some
-// more has been counted, so a run that reads and writes nothing for long shows nothing new.
+// more has been counted, so a run that reads and writes nothing for long shows nothing new. The
+// line is wiped with blanks, which every terminal knows, and not with control sequences. What
+// others write to the terminal, such as the compiler, is not seen.
 
 #include "support/Progress.h"
 
@@ -17,12 +19,15 @@ namespace {
 
 constexpr std::chrono::seconds kDelay{2};
 constexpr std::chrono::milliseconds kRefresh{500};
+/// Between two looks at the clock, counting is an addition and a comparison.
 constexpr std::size_t kBytesPerCheck = 16384;
 constexpr std::size_t kItemsPerCheck = 64;
 
 /// The widest text that stays on one line of the terminal.
 std::size_t WidthOf(int terminal) {
     winsize size{};
+    // One column stays free, since a terminal may go on to the next line when the last one is
+    // filled. Asked each time, because windows change their size.
     const bool known = ::ioctl(terminal, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
     return known ? size.ws_col - 1U : std::string::npos;
 }
@@ -42,6 +47,7 @@ public:
     CKTWatchedBuffer(CKTProgressLine& line, std::ostream& stream)
         : m_Line(line), m_Stream(stream), m_pTarget(stream.rdbuf(this)) {}
     ~CKTWatchedBuffer() override {
+        // A buffer that has taken its place since then stays.
         if (m_Stream.rdbuf() == this) {
             m_Stream.rdbuf(m_pTarget);
         }
@@ -53,6 +59,7 @@ public:
 
 protected:
     int_type overflow(int_type c) override {
+        // The buffer keeps nothing itself, so there is nothing to make room for.
         if (traits_type::eq_int_type(c, traits_type::eof())) {
             return traits_type::not_eof(c);
         }
@@ -65,6 +72,7 @@ protected:
             return 0;
         }
         m_Line.Wipe();
+        // While a line is incomplete, such as a question, it must not be overwritten.
         m_Line.m_bLineStart = text[count - 1] == '\n';
         return m_pTarget->sputn(text, count);
     }
@@ -120,6 +128,7 @@ void CKTProgressLine::ShowWhenDue() {
     if (now <= m_Due) {
         return;
     }
+    // A terminal may be slow, and nobody reads faster.
     m_Due = now + kRefresh;
     // What a stream has taken stands above the line.
     for (const auto& watched : m_Watched) {
@@ -140,6 +149,7 @@ std::string CKTProgressLine::Text() const {
 /// Replaces what is shown. A terminal that takes nothing is none of the run's business.
 void CKTProgressLine::Draw(const std::string& text) {
     const std::string drawn =
+        // Blanks first: the new text may be shorter than the one that is there.
         (m_nShown > 0 ? '\r' + std::string(m_nShown, ' ') + '\r' : std::string()) + text;
     m_nShown = text.size();
     [[maybe_unused]] const auto written = ::write(m_nTerminal, drawn.data(), drawn.size());
@@ -160,8 +170,10 @@ void StartProgress() {
     if (::isatty(STDERR_FILENO) == 0) {
         return;
     }
+    // Standard error, since standard output may be a file that the user keeps.
     Line().emplace(STDERR_FILENO, &std::chrono::steady_clock::now);
     Line()->Watch(std::cerr);
+    // Only what goes to a terminal can run into the line.
     if (::isatty(STDOUT_FILENO) != 0) {
         Line()->Watch(std::cout);
     }

@@ -13,7 +13,7 @@
 /// when standard error is no terminal. Called once, before anything is written.
 void StartProgress();
 
-/// Shows nothing from now on.
+/// Wipes the line and shows nothing from now on; counting goes on unseen.
 void StopProgress();
 
 /// Counts what the line shows: bytes of the input read, and items written to an output. Cheap
@@ -28,7 +28,8 @@ void RestartBytesRead();
 void ReportLineTyped();
 
 /// One line on a terminal that says how far a run is. It is wiped before anything else that a
-/// watched stream writes, and not shown while another line is incomplete.
+/// watched stream writes, and not shown while another line is incomplete. A process has one, behind
+/// the functions above; tests make more, with a clock of their own.
 class CKTProgressLine {
 public:
     using TimePoint = std::chrono::steady_clock::time_point;
@@ -45,10 +46,14 @@ public:
     /// buffer back at the end, unless another one has taken its place by then.
     void Watch(std::ostream& stream);
 
+    /// Count, and show the line when it is due, at most twice a second.
     void AddBytes(std::size_t count);
     void AddItems(std::size_t count);
     void RestartBytes() { m_nBytes = m_nBytesToCheck = 0; }
+    /// What the user typed ended the line that was incomplete.
     void EndLine() { m_bLineStart = true; }
+    /// Takes the line off the terminal, until it is due again or, with Stop, for good. Both may be
+    /// called any number of times.
     void Wipe();
     void Stop();
 

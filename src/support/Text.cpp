@@ -1,3 +1,9 @@
+// Text between bytes of the locale and characters. The C library converts, in the locale that the
+// program sets when it starts; a wide character holds any code point here, so the surrogate pairs
+// of UTF-16 are joined and parted by hand. Text that is all ASCII, as most is, skips the
+// conversion, because every encoding of a locale holds ASCII as it is. Numbers and comparisons know
+// no locale. File names are converted elsewhere, without a loss: they need not be text at all.
+
 #include "support/Text.h"
 
 #include <algorithm>
@@ -23,6 +29,7 @@ bool IsAscii(std::u16string_view text) {
     return std::all_of(text.begin(), text.end(), [](char16_t c) { return c < 0x80; });
 }
 
+/// A surrogate without its partner stays, and no locale can write it.
 std::wstring JoinSurrogates(std::u16string_view text) {
     std::wstring wide;
     wide.reserve(text.size());
@@ -40,9 +47,12 @@ std::wstring JoinSurrogates(std::u16string_view text) {
 
 const char* my_strrchr(const char* text, const char* sub) {
     const char* last = "";
+    // Character by character, because a byte behind the first of a character may look like what is
+    // sought. The first call drops what an earlier text left of a shift state.
     std::mblen(nullptr, 0);
     for (const char* at = text; *at != '\0';) {
         const int measured = std::mblen(at, MB_CUR_MAX);
+        // An invalid byte is passed over alone.
         const int length = measured > 0 ? measured : 1;
         if (my_strnicmp(at, sub, length) == 0) {
             last = at;
@@ -56,6 +66,7 @@ std::wstring my_mbstowcs(const char* text) {
     if (text == nullptr) {
         return {};
     }
+    // Asked for the length first; a text that cannot be converted fails here.
     const std::size_t length = std::mbstowcs(nullptr, text, 0);
     if (length == static_cast<std::size_t>(-1)) {
         Report<SupportMessage::NoWideCharacter>();
@@ -83,12 +94,14 @@ std::string my_wcstombs(const wchar_t* text) {
 }
 
 int my_stricmp(const char* a, const char* b) {
+    // The end of either text ends the comparison long before.
     return my_strnicmp(a, b, INT_MAX);
 }
 
 int my_strnicmp(const char* a, const char* b, int n) {
     for (int i = 0; i < n; ++i) {
         const int difference = LowerByte(a[i]) - LowerByte(b[i]);
+        // Both end here when they are equal so far, so neither is read behind its end.
         if (difference != 0 || a[i] == '\0') {
             return difference;
         }
@@ -110,6 +123,7 @@ std::string NarrowMessage(std::u16string_view text) {
     for (const wchar_t c : JoinSurrogates(text)) {
         const std::size_t length = std::wcrtomb(bytes.data(), c, &state);
         if (length == static_cast<std::size_t>(-1)) {
+            // After a failure the state is not to be used any more.
             narrow += '?';
             state = {};
         } else {
@@ -148,6 +162,7 @@ long long ReadInteger(std::string_view text) {
             break;
         }
         const int digit = c - '0';
+        // Once at the top it stays there. Its negative is a number as well.
         value = value > (kMax - digit) / 10 ? kMax : value * 10 + digit;
     }
     return negative ? -value : value;
@@ -162,6 +177,7 @@ std::string_view PlainNumber(std::string_view text) {
     if (digits.empty() || digits.find_first_not_of("0123456789") != std::string_view::npos) {
         return text;
     }
+    // Of zeros alone, one stays.
     digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size() - 1));
     return negative && digits != "0" ? text : digits;
 }

@@ -1,5 +1,7 @@
 // XML catalogs, as libxml2 reads them. It opens catalogs through the functions that are registered
-// here: regular files of this machine and nothing else, so that no catalog is fetched.
+// here: regular files of this machine and nothing else, so that no catalog is fetched. It reads
+// each once, when it is first needed, and keeps it for the process. What it complains of becomes
+// one note for each catalog; a look-up itself never fails.
 
 #include "xml/Catalog.h"
 
@@ -38,10 +40,13 @@ void TakeComplaint(void*, xmlErrorPtr error) {
     }
 }
 
+/// Claims every name: OpenCatalog notes what it does not open.
 int OpensEveryName(const char*) {
     return 1;
 }
 
+/// Opens a catalog or notes why not. The system's catalog may be missing without a word; one that
+/// the user names may not.
 void* OpenCatalog(const char* name) {
     const std::string path = LocalPath(name);
     struct stat status = {};
@@ -64,6 +69,7 @@ void* OpenCatalog(const char* name) {
 
 void PrepareCatalogs() {
     static const bool kPrepared = [] {
+        // The library's own functions would fetch, so they go first.
         xmlCleanupInputCallbacks();
         xmlRegisterInputCallbacks(OpensEveryName, OpenCatalog, xmlFileRead, xmlFileClose);
         xmlSetStructuredErrorFunc(nullptr, TakeComplaint);
@@ -73,6 +79,7 @@ void PrepareCatalogs() {
 }
 
 struct LibraryText {
+    // A variable that holds a function, so it cannot be named as a deleter.
     void operator()(xmlChar* text) const { xmlFree(text); }
 };
 
@@ -80,6 +87,7 @@ struct LibraryText {
 
 std::optional<std::string> FindInCatalogs(const std::string& location) {
     PrepareCatalogs();
+    // The library's characters are unsigned bytes.
     const auto* sought = reinterpret_cast<const xmlChar*>(location.c_str());
     for (const auto resolve : {xmlCatalogResolveSystem, xmlCatalogResolveURI}) {
         const std::unique_ptr<xmlChar, LibraryText> found(resolve(sought));

@@ -6,7 +6,10 @@
 #include "support/Message.h"
 
 /// What the parser and the inputs have to say; the diagnostics of the parser library keep its own
-/// words. The bounds stand in parts: the error handler gives them their place in the input.
+/// words. The bounds stand in parts: the error handler gives them their place in the input. The
+/// lines about a failed parse, start or stop have no severity, so whoever reports a failed parse
+/// counts it. "occured" is how users' scripts know these lines, beside an "occurred" in another
+/// one.
 enum class XmlMessage {
     Checking,
     Warning,

@@ -26,6 +26,7 @@ struct Place {
 };
 
 bool IsGroup(const ContentSpecNode& node) {
+    // The library marks the groups of the schema, and lists of wildcards, with further bits.
     const int type = node.getType() & 0x0F;
     return type == ContentSpecNode::Choice || type == ContentSpecNode::Sequence ||
            node.getType() == ContentSpecNode::All;
@@ -51,6 +52,7 @@ bool IsMemberInBrackets(const ContentSpecNode& group) {
 }
 
 bool IsBounded(const ContentSpecNode* model) {
+    // A list in place of recursion: a model may be nested deeply.
     std::vector<Place> pending = {{model, 1}};
     std::uint64_t mostOfAMember = 1;
     bool groupsRepeat = false;
@@ -70,6 +72,7 @@ bool IsBounded(const ContentSpecNode* model) {
         if (several && copies > kMaxGroupRepetitions) {
             return false;
         }
+        // Held just above the bound, so that no product leaves its type.
         pending.push_back({node->getFirst(), std::min(copies, kMaxGroupRepetitions + 1)});
         pending.push_back({node->getSecond(), std::min(copies, kMaxGroupRepetitions + 1)});
     }

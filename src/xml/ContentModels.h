@@ -11,7 +11,8 @@ XERCES_CPP_NAMESPACE_END
 
 /// Says whether validation against every type of `grammar` is bounded: the library writes a model
 /// group out as often as it may repeat, counted with the groups around it. If not, `typeName`
-/// becomes the local name of a type whose content repeats too often.
+/// becomes the local name of a type whose content repeats too often, which for an anonymous type is
+/// one of the library's making. Reports nothing.
 bool AreContentModelsBounded(const xercesc::SchemaGrammar& grammar, std::u16string& typeName);
 
 #endif

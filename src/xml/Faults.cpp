@@ -1,3 +1,7 @@
+// Names the fault by throwing it once more and catching it by class. The classes of the parser
+// library have no ancestor in common, with each other or with the standard's, so each has a clause
+// of its own.
+
 #include "xml/Faults.h"
 
 #include <exception>

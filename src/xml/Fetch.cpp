@@ -1,6 +1,8 @@
 // Answers of servers, read as a whole through libcurl. Silence is measured here, because the
 // library's own limit is an average speed, which ends a slow server that does send. Redirections
 // are followed here and not by the library, so that none of their targets is fetched twice.
+// Answers, failures included, are kept for the process; memory is bounded for each of them and not
+// for all.
 
 #include "xml/Fetch.h"
 
@@ -16,6 +18,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+/// A circle of redirections ends here.
 constexpr int kMaxRedirections = 6;
 
 /// An answer while it comes in.
@@ -26,6 +29,7 @@ struct Transfer {
 };
 
 std::size_t TakeHeader(const char*, std::size_t, std::size_t length, void* transfer) {
+    // A header is a sign of life as well.
     static_cast<Transfer*>(transfer)->lastByte = Clock::now();
     return length;
 }
@@ -78,13 +82,17 @@ Fetched Fetch(const std::string& url, const FetchBounds& bounds) {
     }
     Transfer transfer{bounds, {}};
     curl_easy_setopt(handle.get(), CURLOPT_URL, url.c_str());
+    // For a location that holds a user's name: whatever way the server wants it.
     curl_easy_setopt(handle.get(), CURLOPT_HTTPAUTH, CURLAUTH_ANY);
+    // The page that a server sends with an error is no schema.
     curl_easy_setopt(handle.get(), CURLOPT_FAILONERROR, 1L);
+    // No signals of the library's among ours.
     curl_easy_setopt(handle.get(), CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(handle.get(), CURLOPT_HEADERFUNCTION, &TakeHeader);
     curl_easy_setopt(handle.get(), CURLOPT_HEADERDATA, &transfer);
     curl_easy_setopt(handle.get(), CURLOPT_WRITEFUNCTION, &TakeBytes);
     curl_easy_setopt(handle.get(), CURLOPT_WRITEDATA, &transfer);
+    // Otherwise the function below is never called.
     curl_easy_setopt(handle.get(), CURLOPT_NOPROGRESS, 0L);
     curl_easy_setopt(handle.get(), CURLOPT_XFERINFOFUNCTION, &EndsForSilence);
     curl_easy_setopt(handle.get(), CURLOPT_XFERINFODATA, &transfer);
@@ -102,10 +110,12 @@ Fetched Fetch(const std::string& url, const FetchBounds& bounds) {
 }
 
 const Fetched& FetchOnce(const std::string& url, const FetchBounds& bounds) {
+    // A map, because the answers given out stay where they are.
     static std::map<std::string, Fetched> known;
     static const Fetched kFailed;
     std::string location = url;
     for (int redirections = 0; redirections <= kMaxRedirections; ++redirections) {
+        // What stands behind is not sent and makes no other document.
         location.erase(std::min(location.find('#'), location.size()));
         auto found = known.find(location);
         if (found == known.end()) {

@@ -13,6 +13,8 @@ struct FetchBounds {
     std::size_t bytes = kMaxFetchedBytes;
 };
 
+/// How a request ended. The kinds of failure beside Failed are those that the parser library has
+/// words of its own for.
 enum class FetchEnd {
     Complete,
     Redirected,
@@ -32,8 +34,9 @@ struct Fetched {
 /// nothing; the bytes of an answer that is not complete are dropped.
 Fetched Fetch(const std::string& url, const FetchBounds& bounds);
 
-/// The answer for `url`, redirections followed. Whatever was asked for in this process, with or
-/// without success, is not asked for again.
+/// The answer for `url`, redirections followed as far as they lead to servers. Whatever was asked
+/// for in this process, with or without success, is not asked for again. The answer stays where it
+/// is until the process ends. Never Redirected: too many of them are a failure.
 const Fetched& FetchOnce(const std::string& url, const FetchBounds& bounds = {});
 
 #endif

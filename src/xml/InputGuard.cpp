@@ -1,3 +1,9 @@
+// Reads each schema once before the library works on it, with a plain reader of the library that
+// validates nothing and follows no schema. The pass goes step by step, so that it ends at the first
+// refusal; it costs time in the length of the file and keeps only counts. Everything that the
+// library or the pass asks for is opened here. What is wrong with a schema otherwise is left to its
+// load, which says so in the library's words.
+
 #include "xml/InputGuard.h"
 
 #include <memory>
@@ -46,15 +52,18 @@ public:
     void externalEntityDecl(const XMLCh*, const XMLCh*, const XMLCh*) override {
         m_bDeclaresText = true;
     }
+    // Defaults are text that comes out of a declaration again and again.
     void attributeDecl(const XMLCh*, const XMLCh*, const XMLCh*, const XMLCh*,
                        const XMLCh* value) override {
         m_bDeclaresText = m_bDeclaresText || value != nullptr;
     }
     void startElement(const XMLCh*, const XMLCh*, const XMLCh* name,
                       const xercesc::Attributes& attributes) override {
+        // Equal, not above, so that the place reported is the first one.
         if (++m_nDepth == kMaxSchemaDepth + 1) {
             Refuse(MessageText<XmlMessage::DeepElements>(kMaxSchemaDepth));
         }
+        // An attribute does not tell which of its text entities made, so all of it counts.
         if (m_bDeclaresText) {
             for (XMLSize_t i = 0; i < attributes.getLength(); ++i) {
                 CountText(xercesc::XMLString::stringLen(attributes.getValue(i)));
@@ -71,6 +80,9 @@ public:
         }
     }
     void fatalError(const SAXParseException& e) override {
+        // The bound on entities ends the pass as a fatal error. The load does not have that bound,
+        // so it must not come to see such a file; without a document type there is no entity to be
+        // afraid of.
         if (m_bDocumentType) {
             m_Refusal.emplace(e);
         }
@@ -91,6 +103,7 @@ private:
         }
     }
     void CountPattern(std::u16string_view name, const xercesc::Attributes& attributes) {
+        // Judged by the name alone: the pass knows no namespaces.
         const XMLCh* pattern = attributes.getValue(u"value");
         if (pattern == nullptr || (name != u"pattern" && !name.ends_with(u":pattern"))) {
             return;
@@ -122,6 +135,7 @@ void ReadThrough(const xercesc::InputSource& source, xercesc::SAX2XMLReaderImpl&
                  CKTGuardHandler& handler) {
     xercesc::SecurityManager limits;
     limits.setEntityExpansionLimit(kMaxEntityExpansions);
+    // The reader outlives this manager, but uses it in the pass alone; each pass sets its own.
     reader.setProperty(XMLUni::fgXercesSecurityManager, &limits);
     reader.setContentHandler(&handler);
     reader.setErrorHandler(&handler);
@@ -132,6 +146,7 @@ void ReadThrough(const xercesc::InputSource& source, xercesc::SAX2XMLReaderImpl&
     while (more && !handler.refusal()) {
         more = reader.parseNext(token);
     }
+    // A pass that is left midway keeps its inputs open until it is reset.
     if (more) {
         reader.parseReset(token);
     }
@@ -144,6 +159,7 @@ std::unique_ptr<xercesc::SAX2XMLReaderImpl> MakePlainReader(CKTInputGuard& guard
                                  XMLUni::fgXercesSchema, XMLUni::fgXercesLoadExternalDTD}) {
         reader->setFeature(feature, false);
     }
+    // Entities of a schema are opened, or refused, like schemas.
     reader->setXMLEntityResolver(&guard);
     return reader;
 }
@@ -154,6 +170,7 @@ bool IsSchema(xercesc::XMLResourceIdentifier::ResourceIdentifierType type) {
            type == Resource::SchemaInclude || type == Resource::SchemaRedefine;
 }
 
+/// An input of one blank, under the name of what it stands for.
 std::unique_ptr<xercesc::InputSource> NothingInsteadOf(const XMLCh* systemId) {
     static constexpr XMLByte kNothing = ' ';
     return std::make_unique<xercesc::MemBufInputSource>(&kNothing, 1, systemId);
@@ -183,9 +200,11 @@ bool CKTInputGuard::RefusesToFetch(const xercesc::InputSource& source) {
 
 bool CKTInputGuard::AdmitSchema(const xercesc::InputSource& source) {
     const std::u16string name = source.getSystemId();
+    // The library asks for a file as often as it is named.
     if (m_Admitted.contains(name)) {
         return true;
     }
+    // Before the verdict: a refused file was reached too, and its load fails anyway.
     m_Reached.insert(FileIdentity(OpenedName(source)));
     CKTGuardHandler handler;
     try {
@@ -202,11 +221,13 @@ bool CKTInputGuard::AdmitSchema(const xercesc::InputSource& source) {
         return true;
     }
     if (handler.refusal()) {
+        // Muted behind it, because the library complains of the empty input next.
         m_Handler.fatalError(*handler.refusal());
         m_Handler.setMuted(true);
         return false;
     }
     if (handler.externalSubset()) {
+        // The library asks for it by the name written, together with the file, so both are kept.
         m_ExternalSubsets.emplace(name, *handler.externalSubset());
     }
     m_Admitted.insert(name);
@@ -228,6 +249,7 @@ bool CKTInputGuard::IsExternalSubset(const XMLCh* file, const XMLCh* name) const
 xercesc::InputSource* CKTInputGuard::resolveEntity(xercesc::XMLResourceIdentifier* resource) {
     const XMLCh* name = resource->getSystemId();
     const XMLCh* file = resource->getBaseURI();
+    // Nothing is named, so there is nothing to open.
     if (name == nullptr) {
         return nullptr;
     }

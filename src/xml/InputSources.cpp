@@ -86,11 +86,13 @@ xercesc::BinInputStream* CKTFileSource::makeStream() const {
     if (!stream->getIsOpen()) {
         return nullptr;
     }
+    // Once it is open: what cannot be read is no dependency.
     NoteFileRead(m_sPath);
     return stream.release();
 }
 
 std::unique_ptr<xercesc::InputSource> MakeInputSource(const XMLCh* base, const XMLCh* name) {
+    // As written first, then as it reads where it is written: a catalog may hold either.
     std::string location = PathBytes(name);
     std::optional<std::string> found =
         IsLocation(location) ? FindInCatalogs(location) : std::nullopt;
@@ -98,6 +100,7 @@ std::unique_ptr<xercesc::InputSource> MakeInputSource(const XMLCh* base, const X
     if (!found) {
         const bool located =
             base == nullptr ? xercesc::XMLURL::parse(name, url) : url.setURL(base, name, url);
+        // No URL even with its base, so it is a file name.
         if (!located || url.isRelative()) {
             return base == nullptr ? NamedByUser(name) : NamedInFile(base, name);
         }

@@ -1,3 +1,8 @@
+// Makes one line of each diagnostic, which is printed and counted at once or, during a pass whose
+// verdict is awaited, held with its count. It counts for itself, past the counting operator, so
+// such a line brings up no banner, and a fatal error counts as an error. What the locale cannot
+// show becomes a question mark. Whether reading goes on is the library's to decide.
+
 #include "xml/KTDOMErrorHandler.h"
 
 #include <iostream>
@@ -57,6 +62,7 @@ void CKTDOMErrorHandler::Record(const std::string& line, bool isWarning) const {
     }
     if (m_pHeld->lines.size() + line.size() > kMaxHeldBytes) {
         m_pHeld->isComplete = false;
+        // Leaves the pass from here, so nothing of this diagnostic is kept.
         CKTTreeReader::Stop();
     }
     m_pHeld->lines += line;

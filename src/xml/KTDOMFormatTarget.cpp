@@ -1,3 +1,7 @@
+// The last step of an output: the formatter escapes and encodes, the target hands the bytes to
+// standard output, which may be lent to a file. By that, formatter and plain output reach a file in
+// one order. The free functions set the escaping that they need and leave it off.
+
 #include "xml/KTDOMFormatTarget.h"
 
 #include <iostream>
@@ -17,6 +21,7 @@ void CKTDOMFormatTarget::writeChars(const XMLByte* bytes, XMLSize_t count, XMLFo
 
 void CKTDOMFormatTarget::setTarget(std::ofstream* file) {
     m_pFileBuffer = file->rdbuf();
+    // What was written before belongs to the old buffer.
     std::cout.flush();
     std::cout.rdbuf(m_pFileBuffer);
 }
@@ -44,6 +49,7 @@ void writeAttr(XMLFormatter& f, const char* name, const char* value) {
 }
 
 XMLFormatter& operator<<(XMLFormatter& f, const char* text) {
+    // Text that the locale cannot decode is reported there and leaves nothing to write.
     const std::u16string wide = WidenText(text);
     if (!wide.empty()) {
         f.formatBuf(wide.c_str(), wide.size());

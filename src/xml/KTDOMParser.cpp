@@ -1,6 +1,8 @@
 // The facade of the parser library. Everything of the library lives in one object behind it: the
 // reader that turns events into trees, the guard that opens the files, the error handler. Each way
 // of reading sets the reader up as a whole, so that nothing depends on what was read before.
+// Exceptions of the library end here in one line each. One of them leaves a document that counts as
+// parsed, and one word of these lines is misspelt; both are wanted.
 
 #include "xml/KTDOMParser.h"
 
@@ -45,14 +47,17 @@ struct Reading {
 
 /// What the facade holds of the library, which has to be up longer than any of it.
 class CKTDOMParser::CKTLibrary {
+    // First, so that it ends last: the library must be up while its objects are taken down.
     CKTPlatform m_Platform;
 
 public:
     explicit CKTLibrary(CKTDOMParser* owner, CKTLibraryValidator validator)
         : m_pOwner(owner), m_Reader(validator.validator.release()) {
+        // Set once; what depends on the file is set before each reading.
         m_Reader.setDoNamespaces(true);
         m_Reader.setIncludeIgnorableWhitespace(false);
         m_Reader.setCreateEntityReferenceNodes(false);
+        // Otherwise the library loads the first import of a namespace and passes over the others.
         m_Reader.setHandleMultipleImports(true);
         m_Limits.setEntityExpansionLimit(kMaxEntityExpansions);
         m_Reader.setSecurityManager(&m_Limits);
@@ -95,6 +100,7 @@ private:
     CKTDOMErrorHandler m_Handler;
     CKTInputGuard m_Guard{m_Handler};
     xercesc::SecurityManager m_Limits;
+    // Behind what it is given above, which has to outlive it.
     CKTTreeReader m_Reader;
 };
 
@@ -132,6 +138,8 @@ bool CKTDOMParser::ParseFile(const std::string& fileName, FILE_TYPE type, bool v
 /// needs is checked then.
 bool CKTDOMParser::CKTLibrary::LoadSchema(const std::string& fileName) {
     m_Guard.BeginLoad();
+    // Compared with before, because the counters belong to the process: complaints about an earlier
+    // file are not this one's.
     const int errors = m_nErrorCount;
     const int warnings = m_nWarningCount;
     const std::unique_ptr<xercesc::InputSource> source = OpenSource(fileName);
@@ -144,6 +152,7 @@ bool CKTDOMParser::CKTLibrary::LoadSchema(const std::string& fileName) {
 /// one that must not be fetched.
 std::unique_ptr<xercesc::InputSource> CKTDOMParser::CKTLibrary::OpenSource(
     const std::string& fileName) {
+    // The progress line tells the bytes of one reading.
     RestartBytesRead();
     std::u16string fault = WidenText(MessageText<XmlMessage::Unreadable>());
     try {
@@ -165,6 +174,7 @@ void CKTDOMParser::CKTLibrary::SetUp(const Reading& reading, CKTXMLElement* root
     m_Reader.setDoSchema(reading.validates);
     m_Reader.setValidationScheme(reading.validates ? xercesc::XercesDOMParser::Val_Always
                                                    : xercesc::XercesDOMParser::Val_Never);
+    // That of a schema only describes schemas and is mostly not there.
     m_Reader.setLoadExternalDTD(!reading.isSchema);
     m_Reader.BuildBelow(root, m_pOwner, reading.isSchema);
 }
@@ -173,6 +183,7 @@ bool CKTDOMParser::CKTLibrary::Load(const xercesc::InputSource& source) {
     m_Reader.setDoSchema(true);
     m_Reader.setValidationScheme(xercesc::XercesDOMParser::Val_Auto);
     try {
+        // What is refused has been reported and so counted, which is what the caller looks at.
         if (m_Guard.AdmitSchema(source)) {
             m_Reader.loadGrammar(source, xercesc::Grammar::SchemaGrammarType, true);
             m_Reader.resetCachedGrammarPool();
@@ -202,6 +213,8 @@ bool CKTDOMParser::CKTLibrary::Parse(const xercesc::InputSource& source) {
                !m_Guard.HasRefusedToFetch();
     } catch (const xercesc::XMLException& e) {
         Report<XmlMessage::ParseException>(NarrowMessage(e.getMessage()));
+        // Counted here, since the line has no severity. The document counts as parsed all the same,
+        // which is wanted.
         ++m_nErrorCount;
         return true;
     } catch (const xercesc::DOMException& e) {
@@ -224,6 +237,7 @@ std::unique_ptr<CKTXMLElement> CKTDOMParser::CKTLibrary::ReadSchemaTree(
 
 bool CKTDOMParser::CKTLibrary::IsFlawless(const std::string& fileName) {
     m_Held = {};
+    // From the opening of the file on: that it is missing is a complaint like others.
     m_Handler.setHeld(&m_Held);
     m_Guard.BeginLoad();
     try {
@@ -240,6 +254,7 @@ bool CKTDOMParser::CKTLibrary::IsFlawless(const std::string& fileName) {
 }
 
 std::unique_ptr<CKTXMLElement> CKTDOMParser::CKTLibrary::TakeDocument() {
+    // The tree of the parse is given away once; whoever asks again waits for a reading.
     if (document != nullptr) {
         return std::move(document);
     }
@@ -256,6 +271,7 @@ std::unique_ptr<CKTXMLElement> CKTDOMParser::getXMLDocument() {
         return nullptr;
     }
     try {
+        // First, because it borrows the target.
         library.formatter.reset();
         library.target = std::make_unique<CKTDOMFormatTarget>();
         library.formatter = std::make_unique<CKTXMLFormatter>(*library.target);
@@ -285,6 +301,7 @@ bool CKTDOMParser::IsFlawless(const std::string& fileName) {
 
 bool CKTDOMParser::ReportHeldComplaints() {
     const CKTHeldDiagnostics& held = m_pLibrary->held();
+    // A part of them is of no use: the caller has the document read again.
     if (held.isComplete) {
         CKTDOMErrorHandler::Report(held);
     }

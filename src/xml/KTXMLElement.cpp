@@ -1,3 +1,9 @@
+// The element tree. An element owns its attributes and children in lists; the pointers between
+// siblings repeat the lists for whoever walks along them and are kept by the few operations that
+// change a list. Search and destruction keep a list of their own in place of recursion, so the
+// depth of a document costs memory and no stack. Names stand once in the process and are never
+// given back; a tree holds few different ones.
+
 #include "xml/KTXMLElement.h"
 
 #include <functional>
@@ -40,6 +46,7 @@ std::string_view CKTXMLNode::getNonQualifiedName(std::string_view name) {
 }
 
 const std::string* CKTXMLNode::InternName(std::string_view name) {
+    // A set of nodes: a name stays where it is when the set grows.
     static std::unordered_set<std::string, NameHash, std::equal_to<>> names;
     const auto known = names.find(name);
     return known != names.end() ? &*known : &*names.emplace(name).first;
@@ -78,6 +85,7 @@ CKTXMLElement* CKTXMLElement::addChildElement(std::unique_ptr<CKTXMLElement> chi
 std::vector<std::unique_ptr<CKTXMLElement>> CKTXMLElement::takeChildElements(
     const std::function<bool(const CKTXMLElement&)>& wanted) {
     std::vector<std::unique_ptr<CKTXMLElement>> taken;
+    // All are taken out and those that stay appended anew, so one operation links in every case.
     std::vector<std::unique_ptr<CKTXMLElement>> all = std::exchange(m_ChildList, {});
     for (std::unique_ptr<CKTXMLElement>& child : all) {
         child->setPrevSibling(nullptr);
@@ -100,6 +108,7 @@ CKTXMLElement* CKTXMLElement::getFirstChildElem() const {
 }
 
 CKTXMLAttribute* CKTXMLElement::getAttribute(std::string_view name) const {
+    // By search: an element has few attributes.
     for (CKTXMLAttribute* a = getFirstAttr(); a != nullptr; a = a->getNextSibling()) {
         if (a->getName() == name) {
             return a;
@@ -118,10 +127,13 @@ void CKTXMLElement::findElement(const std::string& key, Compare compare,
         if (CKTXMLElement* match = compare(e, key)) {
             result.push_back(match);
         }
+        // Without recursion the search goes along the siblings and not down; callers begin it at a
+        // first child.
         if (!recursive) {
             e = e->getNextSibling();
             continue;
         }
+        // Below this element only: its own siblings are not searched.
         CKTXMLElement* next = e->getFirstChildElem();
         if (next != nullptr) {
             above.push_back(e);

@@ -34,6 +34,7 @@ protected:
 /// One attribute, named as written (prefix included). Owned by its element.
 class CKTXMLAttribute : public CKTXMLNode {
 public:
+    /// The kind of node, in the numbers of the DOM.
     static constexpr std::int32_t m_nNodeType = 2;
 
     CKTXMLAttribute() : CKTXMLAttribute({}, {}) {}

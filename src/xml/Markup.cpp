@@ -1,4 +1,6 @@
 // Markup in large pieces: most of an output is plain ASCII, which needs no look from the formatter.
+// What does need one goes through it piece by piece; whatever was collected is written before, so
+// the order holds. Only values and content are escaped: names and the rest come from the writers.
 
 #include "xml/Markup.h"
 
@@ -16,6 +18,7 @@ constexpr std::size_t kMarkupPiece = 8192;
 /// Says whether `text` is ASCII without a character that markup or attribute values escape.
 bool NeedsNoEscape(const std::string& text) {
     return std::all_of(text.begin(), text.end(), [](char c) {
+        // Characters are signed here: a byte above ASCII is negative and goes the other way.
         return c >= ' ' && c != '&' && c != '<' && c != '>' && c != '"' && c != '\'';
     });
 }
@@ -24,6 +27,7 @@ bool NeedsNoEscape(const std::string& text) {
 std::string WithoutControls(std::string text) {
     std::replace_if(
         text.begin(), text.end(),
+        // Bytes above ASCII are left alone: they are part of characters.
         [](char c) { return c >= 0 && c < ' ' && c != '\t' && c != '\n' && c != '\r'; }, '?');
     return text;
 }

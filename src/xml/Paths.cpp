@@ -1,5 +1,8 @@
 // File names on their way to the parser library and back. The library keeps names as UTF-16; its
-// own conversion loses what the locale cannot decode, so names are converted here, without a loss.
+// own conversion loses what the locale cannot decode, so names are converted here, without a loss:
+// a byte that is no text becomes a lone low surrogate and comes back as that byte. Paths are joined
+// and shortened by text alone, as the library does it, so that both form the same name of a file;
+// only FileIdentity asks the system about links.
 
 #include "xml/Paths.h"
 
@@ -16,6 +19,7 @@ namespace {
 constexpr char32_t kFirstSupplementary = 0x10000;
 constexpr char16_t kHighSurrogates = 0xD800;
 constexpr char16_t kLowSurrogates = 0xDC00;
+/// The surrogates that stand for bytes. ASCII is never among them.
 constexpr char16_t kFirstByte = kLowSurrogates + 0x80;
 constexpr char16_t kLastByte = kLowSurrogates + 0xFF;
 
@@ -42,6 +46,7 @@ char32_t TakeCharacter(std::u16string_view text, std::size_t& at) {
            (low - kLowSurrogates);
 }
 
+/// For characters from 0x80 on.
 void AppendUtf8(std::string& bytes, char32_t c) {
     const auto continued = [](char32_t bits) { return static_cast<char>(0x80 | (bits & 0x3F)); };
     if (c < 0x800) {
@@ -58,7 +63,7 @@ void AppendUtf8(std::string& bytes, char32_t c) {
     bytes += continued(c);
 }
 
-/// A file's path without the beginning that makes it a URL.
+/// A file's path without the beginning that makes it a URL; the slash of its root stays.
 std::string_view WithoutScheme(std::string_view name) {
     for (const std::string_view start : {"file://localhost/", "file:///"}) {
         if (name.starts_with(start)) {
@@ -75,11 +80,13 @@ std::u16string PathText(std::string_view path) {
     std::mbstate_t state{};
     for (std::size_t at = 0; at < path.size();) {
         const auto byte = static_cast<unsigned char>(path[at]);
+        // ASCII is itself in every locale and most of a name.
         wchar_t c = byte;
         std::size_t length = 1;
         if (byte >= 0x80) {
             length = std::mbrtowc(&c, path.data() + at, path.size() - at, &state);
         }
+        // The answers for an invalid and for an unfinished character are the largest numbers.
         if (length == 0 || length > path.size()) {
             state = {};
             length = 1;
@@ -104,6 +111,7 @@ std::string PathBytes(std::u16string_view text) {
         } else {
             const std::size_t length =
                 std::wcrtomb(encoded.data(), static_cast<wchar_t>(c), &state);
+            // The locale lacks the character; a file that is called so has its name in UTF-8.
             if (length > encoded.size()) {
                 state = {};
                 AppendUtf8(bytes, c);
@@ -127,6 +135,7 @@ std::optional<std::string> Unescaped(std::string_view text) {
             const std::string_view digits = text.substr(at + 1, 2);
             const char* end = digits.data() + digits.size();
             const auto [last, fault] = std::from_chars(digits.data(), end, byte, 16);
+            // Two digits, no fewer: a name must not come to mean another file by a guess.
             if (digits.size() != 2 || last != end || fault != std::errc()) {
                 return std::nullopt;
             }
@@ -140,6 +149,7 @@ std::optional<std::string> Unescaped(std::string_view text) {
 std::string LocalPath(std::string_view name) {
     const std::string path(WithoutScheme(name));
     std::error_code error;
+    // A name may hold a percent sign of its own, so the file as written comes first.
     return std::filesystem::exists(path, error) ? path : Unescaped(path).value_or(path);
 }
 
@@ -170,14 +180,17 @@ std::string WithoutDotSlash(std::string path) {
 }
 
 std::string WithoutDotDotSlash(std::string path) {
+    // Not at the beginning: nothing stands before it that could be taken back.
     std::size_t from = 1;
     for (std::size_t at = path.find("/../", from); at != std::string::npos;
          at = path.find("/../", from)) {
         const std::size_t before = path.rfind('/', at - 1);
+        // A ".." that stayed cannot be taken back by the next one.
         if (before == std::string::npos || path.compare(before, at - before, "/..") == 0) {
             from = at + 3;
         } else {
             path.erase(before, at + 3 - before);
+            // What stands before may be followed by a ".." only through this removal.
             from = std::max<std::size_t>(before, 1);
         }
     }
@@ -192,6 +205,7 @@ std::string WeavePaths(const std::string& base, const std::string& path) {
 }
 
 std::string FullPath(const std::string& path) {
+    // A directory that is gone leaves the name as it is, without a message.
     std::error_code error;
     const std::filesystem::path directory = std::filesystem::current_path(error);
     return error || !IsRelativePath(path) ? path : directory.string() + "/" + path;

@@ -1,3 +1,9 @@
+// One pass over a pattern, which adds up what the library would write out of it. Open groups are a
+// list and not recursion, and numbers stop at a bound far above any limit, so every pattern is
+// measured in the time of its length. Whether it is a valid one is left to the library. Marks such
+// as "|" and "*" count as parts of their own: the answer may be too high and is never meant to be
+// exact.
+
 #include "xml/PatternSize.h"
 
 #include <algorithm>
@@ -60,6 +66,7 @@ PatternSize MeasurePattern(std::u16string_view pattern) {
                 ++at;
                 break;
             case ')':
+                // One that closes nothing is the library's to complain about.
                 if (open.size() > 1) {
                     const std::uint64_t parts = open.back().parts;
                     open.pop_back();
@@ -69,6 +76,7 @@ PatternSize MeasurePattern(std::u16string_view pattern) {
                 break;
             case '{': {
                 const std::uint64_t repeated = open.back().last * TakeRepetition(pattern, at);
+                // Its single copy is counted already.
                 open.back().parts -= std::min(open.back().parts, open.back().last);
                 open.back().Add(std::min(repeated, kEndless));
                 break;
@@ -79,10 +87,12 @@ PatternSize MeasurePattern(std::u16string_view pattern) {
                 break;
             default:
                 open.back().Add(1);
+                // A backslash takes the next character along, whatever that is.
                 at += pattern[at] == '\\' ? 2 : 1;
                 break;
         }
     }
+    // Groups that nothing closes count as well.
     for (const Group& group : open) {
         size.parts = std::min(size.parts + group.parts, kEndless);
     }

@@ -1,4 +1,5 @@
-// Start and stop of the parser library, which counts its own starts.
+// Start and stop of the parser library, which counts its own starts, so that objects may overlap. A
+// failure is one line and nothing more.
 
 #include "xml/Platform.h"
 

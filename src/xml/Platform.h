@@ -10,7 +10,8 @@ public:
     CKTPlatform(const CKTPlatform&) = delete;
     CKTPlatform& operator=(const CKTPlatform&) = delete;
 
-    /// Starts the library without an end, for a caller that keeps no such object.
+    /// Starts the library without an end, for a caller that keeps no such object. May be called any
+    /// number of times.
     static void Start();
 };
 

@@ -1,5 +1,6 @@
 // Inputs that are fetched. A server that cannot be spoken to is told of by the exceptions of the
-// parser library's own accessor, whose texts name what went wrong.
+// parser library's own accessor, whose texts name what went wrong. Any other failure is an
+// input that cannot be opened, which the library tells in its usual line.
 
 #include "xml/RemoteInput.h"
 
@@ -22,6 +23,7 @@ namespace {
 /// Fetched bytes, counted for whoever waits for them.
 class CKTCountedBytes : public xercesc::BinMemInputStream {
 public:
+    // Refers to the bytes: what was fetched stays for the process.
     explicit CKTCountedBytes(const std::string& bytes)
         : BinMemInputStream(reinterpret_cast<const XMLByte*>(bytes.data()), bytes.size(),
                             BufOpt_Reference) {}

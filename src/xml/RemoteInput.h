@@ -7,6 +7,7 @@
 /// Something elsewhere. It is fetched when it is opened for the first time and kept for the run.
 class CKTRemoteSource : public xercesc::InputSource {
 public:
+    /// Copies `url`, whose text becomes the system identifier. Fetches nothing yet.
     explicit CKTRemoteSource(const xercesc::XMLURL& url);
 
     /// The stream; null when the network is off or the fetch failed. Throws the library's own

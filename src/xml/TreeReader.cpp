@@ -1,7 +1,10 @@
 // From the scanner's events to an element tree. The shape of the tree is that of a library document
 // that was copied: attributes in the order of their names, one text per run of characters between
 // two other nodes, of which the last one stays; CDATA sections, comments and the like end a run and
-// leave nothing.
+// leave nothing. Every event that would build a node is overridden, so that no document comes
+// about. There is no recursion here: the place in the tree is a pointer that goes down and up. On
+// the way, the text of entities is counted and the content models of schemas are measured, since
+// the library bounds neither; a refusal is a fatal error and leaves the pass.
 
 #include "xml/TreeReader.h"
 
@@ -37,6 +40,7 @@ static_assert(std::is_same_v<XMLCh, char16_t>);
 /// The library offers no way to leave a reading pass but an exception; it ends in Read.
 struct PassStopped {};
 
+/// Names, lists of names and locations, around which blanks do not count in a schema.
 constexpr std::array<std::string_view, 8> kTrimmedAttributes = {
     "name",        "ref",       "type",          "base", "substitutionGroup",
     "memberTypes", "namespace", "schemaLocation"};
@@ -63,6 +67,7 @@ void CKTTreeReader::BuildBelow(CKTXMLElement* root, CKTDOMParser* owner, bool is
 }
 
 bool CKTTreeReader::Read(const xercesc::InputSource& source) {
+    // An earlier pass may have been left midway.
     m_nDepth = 0;
     m_nOpenEntities = 0;
     m_nEntityText = 0;
@@ -84,6 +89,7 @@ void CKTTreeReader::Stop() {
 }
 
 void CKTTreeReader::Refuse(const std::string& reason) {
+    // Through the handler, so that the line has its place in the file and is counted.
     if (xercesc::ErrorHandler* handler = getErrorHandler()) {
         handler->fatalError(
             xercesc::SAXParseException(WidenText(reason).c_str(), *getScanner()->getLocator()));
@@ -91,6 +97,7 @@ void CKTTreeReader::Refuse(const std::string& reason) {
     Stop();
 }
 
+// The library's parser would make a document here.
 void CKTTreeReader::startDocument() {}
 void CKTTreeReader::endDocument() {}
 
@@ -102,6 +109,7 @@ void CKTTreeReader::startElement(const xercesc::XMLElementDecl& declaration, uns
         NoteDocumentType();
     }
     ++m_nDepth;
+    // A schema that this element names is loaded by now, and no content has been checked with it.
     if (m_bSchemaLoaded) {
         m_bSchemaLoaded = false;
         CheckContentModels();
@@ -112,6 +120,7 @@ void CKTTreeReader::startElement(const xercesc::XMLElementDecl& declaration, uns
     if (m_pCurrent != nullptr) {
         EndText();
         m_sQualifiedName.clear();
+        // The prefix is the event's: elements with different ones may share a declaration.
         if (uriId != getScanner()->getEmptyNamespaceId() && prefix != nullptr && *prefix != 0) {
             m_sQualifiedName.append(prefix).push_back(u':');
         }
@@ -122,6 +131,7 @@ void CKTTreeReader::startElement(const xercesc::XMLElementDecl& declaration, uns
         AddAttributes(*element, attributes, count);
         m_pCurrent = m_pCurrent->addChildElement(std::move(element));
     }
+    // The scanner sends no end of its own for such an element.
     if (isEmpty) {
         endElement(declaration, uriId, isRoot, prefix);
     }
@@ -171,6 +181,7 @@ void CKTTreeReader::docCharacters(const XMLCh* text, XMLSize_t length, bool isCD
     if (m_pCurrent == nullptr || m_nDepth == 0) {
         return;
     }
+    // Its text is lost, which is wanted.
     if (isCData) {
         EndText();
     } else {
@@ -179,6 +190,7 @@ void CKTTreeReader::docCharacters(const XMLCh* text, XMLSize_t length, bool isCD
     }
 }
 
+// White space that validation finds between elements: counted, and no text.
 void CKTTreeReader::ignorableWhitespace(const XMLCh* /*text*/, XMLSize_t length, bool /*isCData*/) {
     if (m_nOpenEntities > 0) {
         CountEntityText(length);
@@ -217,6 +229,7 @@ const std::string* CKTTreeReader::NarrowName(std::u16string_view name) {
         return known->second;
     }
     const std::string* narrow = CKTXMLNode::InternName(NarrowText(name));
+    // One that failed is empty.
     if (!narrow->empty()) {
         m_Names.emplace(name, narrow);
     }
@@ -259,6 +272,7 @@ void CKTTreeReader::CountAttributeText(const xercesc::RefVectorOf<xercesc::XMLAt
     }
 }
 
+/// Measures every schema that is loaded, since one that is named brings others with it.
 void CKTTreeReader::CheckContentModels() {
     xercesc::RefHashTableOfEnumerator<xercesc::Grammar> grammars =
         getGrammarResolver()->getGrammarEnumerator();
@@ -268,6 +282,7 @@ void CKTTreeReader::CheckContentModels() {
         if (grammar == nullptr || AreContentModelsBounded(*grammar, type)) {
             continue;
         }
+        // The library's own name for a type that has none.
         Refuse(type.starts_with(u"__Anon")
                    ? MessageText<XmlMessage::RepeatedGroup>(kMaxGroupRepetitions)
                    : MessageText<XmlMessage::RepeatedGroupOfType>(NarrowMessage(type),

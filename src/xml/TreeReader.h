@@ -14,7 +14,8 @@ class CKTXMLElement;
 
 /// The parser library's parser with its document left out: it turns the events of the scanner into
 /// the program's element tree at once, or into nothing. Memory does not grow with the length of a
-/// document of which nothing is built.
+/// document of which nothing is built. It may read any number of files, one after the other; error
+/// handler, entity resolver and security manager are set from outside and borrowed.
 class CKTTreeReader : public xercesc::XercesDOMParser {
 public:
     /// `validator` may be null; it is taken over.
@@ -32,7 +33,8 @@ public:
     /// to the end.
     bool Read(const xercesc::InputSource& source);
 
-    /// Leaves the reading pass, from a report in its midst.
+    /// Leaves the reading pass, from a report in its midst: to be called below Read only, which
+    /// then answers false. The exception that carries it ends there.
     [[noreturn]] static void Stop();
 
     // The scanner's events.
@@ -54,6 +56,7 @@ public:
                  const XMLCh* actualEncoding) override;
 
 private:
+    /// Lets a look-up go without a copy of the name.
     struct TextHash {
         using is_transparent = void;
         std::size_t operator()(std::u16string_view text) const {
@@ -61,15 +64,20 @@ private:
         }
     };
 
+    /// The narrow form of a name, which lives as long as the process.
     const std::string* NarrowName(std::u16string_view name);
     void AddAttributes(CKTXMLElement& element,
                        const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes, XMLSize_t count);
+    /// Gives the current element the run of characters that has come in as its value.
     void EndText();
+    /// Refuses the document when its entities expand to too much.
     void CountEntityText(XMLSize_t length);
     void NoteDocumentType();
     void CountAttributeText(const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
                             XMLSize_t count);
+    /// Refuses the document when a schema behind it repeats its content too often.
     void CheckContentModels();
+    /// Reports `reason` as a fatal error at the current place and leaves the pass.
     [[noreturn]] void Refuse(const std::string& reason);
 
     CKTXMLElement* m_pCurrent = nullptr;
