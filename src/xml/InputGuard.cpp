@@ -26,6 +26,7 @@
 #include "support/Limits.h"
 #include "support/Text.h"
 #include "xml/Complaints.h"
+#include "xml/EntityText.h"
 #include "xml/InputSources.h"
 #include "xml/KTDOMErrorHandler.h"
 #include "xml/Locations.h"
@@ -66,18 +67,17 @@ public:
         // An attribute does not tell which of its text entities made, so all of it counts.
         if (m_bDeclaresText) {
             for (XMLSize_t i = 0; i < attributes.getLength(); ++i) {
-                CountText(xercesc::XMLString::stringLen(attributes.getValue(i)));
+                RefuseUnless(
+                    m_EntityText.Take(xercesc::XMLString::stringLen(attributes.getValue(i))));
             }
         }
         CountPattern(name, attributes);
     }
     void endElement(const XMLCh*, const XMLCh*, const XMLCh*) override { --m_nDepth; }
-    void startEntity(const XMLCh*) override { ++m_nOpenEntities; }
-    void endEntity(const XMLCh*) override { --m_nOpenEntities; }
+    void startEntity(const XMLCh*) override { m_EntityText.Open(); }
+    void endEntity(const XMLCh*) override { m_EntityText.Close(); }
     void characters(const XMLCh*, const XMLSize_t length) override {
-        if (m_nOpenEntities > 0) {
-            CountText(length);
-        }
+        RefuseUnless(m_EntityText.TakeText(length));
     }
     void fatalError(const SAXParseException& e) override {
         // The bound on entities ends the pass as a fatal error. The load does not have that bound,
@@ -96,9 +96,8 @@ public:
     }
 
 private:
-    void CountText(XMLSize_t length) {
-        m_nEntityText += length;
-        if (m_nEntityText > kMaxEntityText) {
+    void RefuseUnless(bool isBounded) {
+        if (!isBounded) {
             Refuse(MessageText<XmlMessage::LongEntities>(kMaxEntityText));
         }
     }
@@ -123,8 +122,7 @@ private:
     const xercesc::Locator* m_pLocator = nullptr;
     std::optional<SAXParseException> m_Refusal;
     int m_nDepth = 0;
-    int m_nOpenEntities = 0;
-    XMLSize_t m_nEntityText = 0;
+    CKTEntityText m_EntityText;
     std::uint64_t m_nPatternParts = 0;
     bool m_bDocumentType = false;
     bool m_bDeclaresText = false;  ///< entities or defaults, which attributes may hold unseen

@@ -61,12 +61,11 @@ public:
     /// there were too many to hold.
     bool ReportHeldComplaints();
 
-    /// The process-wide counters; 1 when there is no error handler, so that such a parser looks
-    /// failed.
+    /// The process-wide counters.
     [[nodiscard]] int getErrorCount() const;
     [[nodiscard]] int getWarningCount() const;
 
-    /// Forwarded to the error handler; nothing without one.
+    /// Forwarded to the error handler.
     void setVerboseError(bool verbose);
     void DisplayErrorSummary();
     void ResetErrors();

@@ -18,8 +18,10 @@ constexpr std::size_t kMarkupPiece = 8192;
 /// Says whether `text` is ASCII without a character that markup or attribute values escape.
 bool NeedsNoEscape(const std::string& text) {
     return std::all_of(text.begin(), text.end(), [](char c) {
-        // Characters are signed here: a byte above ASCII is negative and goes the other way.
-        return c >= ' ' && c != '&' && c != '<' && c != '>' && c != '"' && c != '\'';
+        // A byte above ASCII goes the other way: the formatter knows the encoding of the locale.
+        const auto code = static_cast<unsigned char>(c);
+        return code >= ' ' && code < 0x80 && c != '&' && c != '<' && c != '>' && c != '"' &&
+               c != '\'';
     });
 }
 
@@ -28,7 +30,10 @@ std::string WithoutControls(std::string text) {
     std::replace_if(
         text.begin(), text.end(),
         // Bytes above ASCII are left alone: they are part of characters.
-        [](char c) { return c >= 0 && c < ' ' && c != '\t' && c != '\n' && c != '\r'; }, '?');
+        [](char c) {
+            return static_cast<unsigned char>(c) < ' ' && c != '\t' && c != '\n' && c != '\r';
+        },
+        '?');
     return text;
 }
 

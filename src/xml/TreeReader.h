@@ -1,16 +1,12 @@
 #ifndef DORVEX_XML_TREEREADER_H
 #define DORVEX_XML_TREEREADER_H
 
-#include <memory>
 #include <string>
-#include <string_view>
-#include <unordered_map>
-#include <vector>
 
 #include <xercesc/parsers/XercesDOMParser.hpp>
 
-class CKTDOMParser;
-class CKTXMLElement;
+#include "xml/EntityText.h"
+#include "xml/TreeBuilder.h"
 
 /// The parser library's parser with its document left out: it turns the events of the scanner into
 /// the program's element tree at once, or into nothing. Memory does not grow with the length of a
@@ -25,7 +21,9 @@ public:
     /// What to do with what is read next. `root` (borrowed, null for nothing) receives the document
     /// element; `owner` is the parser that its elements name. In a schema, the blanks around names
     /// and locations are left off.
-    void BuildBelow(CKTXMLElement* root, CKTDOMParser* owner, bool isSchema);
+    void BuildBelow(CKTXMLElement* root, CKTDOMParser* owner, bool isSchema) {
+        m_Builder.BuildBelow(root, owner, isSchema);
+    }
 
     /// Reads `source` to its end with the settings of the parser, or up to the point where its
     /// entities become too large or the schemas behind it repeat their content too often, which is
@@ -56,22 +54,8 @@ public:
                  const XMLCh* actualEncoding) override;
 
 private:
-    /// Lets a look-up go without a copy of the name.
-    struct TextHash {
-        using is_transparent = void;
-        std::size_t operator()(std::u16string_view text) const {
-            return std::hash<std::u16string_view>()(text);
-        }
-    };
-
-    /// The narrow form of a name, which lives as long as the process.
-    const std::string* NarrowName(std::u16string_view name);
-    void AddAttributes(CKTXMLElement& element,
-                       const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes, XMLSize_t count);
-    /// Gives the current element the run of characters that has come in as its value.
-    void EndText();
     /// Refuses the document when its entities expand to too much.
-    void CountEntityText(XMLSize_t length);
+    void RefuseUnless(bool isBounded);
     void NoteDocumentType();
     void CountAttributeText(const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
                             XMLSize_t count);
@@ -80,20 +64,12 @@ private:
     /// Reports `reason` as a fatal error at the current place and leaves the pass.
     [[noreturn]] void Refuse(const std::string& reason);
 
-    CKTXMLElement* m_pCurrent = nullptr;
-    CKTDOMParser* m_pOwner = nullptr;
-    bool m_bSchema = false;
+    CKTTreeBuilder m_Builder;
+    CKTEntityText m_EntityText;
     unsigned m_nDepth = 0;
-    unsigned m_nOpenEntities = 0;
-    std::uint64_t m_nEntityText = 0;
     bool m_bHasDocumentType = false;
     bool m_bDeclaresEntities = false;
     bool m_bSchemaLoaded = false;
-    bool m_bInText = false;
-    std::u16string m_sText;
-    std::u16string m_sQualifiedName;
-    std::vector<const xercesc::XMLAttr*> m_Attributes;
-    std::unordered_map<std::u16string, const std::string*, TextHash, std::equal_to<>> m_Names;
 };
 
 #endif
