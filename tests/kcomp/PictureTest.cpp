@@ -14,9 +14,8 @@ namespace {
 std::string Shown(const std::string& text, const PictureSymbols& symbols = {}) {
     const Picture picture = ReadPicture(text, symbols);
     const std::string named = "PICTURE \"" + text + "\" ";
-    if (!picture.fault.empty()) {
-        const bool starts = picture.fault.starts_with(named);
-        return starts ? picture.fault.substr(named.size()) : picture.fault;
+    if (const std::string& fault = picture.fault.Text(); !fault.empty()) {
+        return fault.starts_with(named) ? fault.substr(named.size()) : fault;
     }
     constexpr std::array categories = {"num", "text", "text-edited", "num-edited", "national"};
     std::string shown = categories.at(static_cast<std::size_t>(picture.category));

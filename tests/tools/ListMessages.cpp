@@ -1,5 +1,5 @@
-// Writes the messages of all rooms, line by line as users read of them: with its severity, and with
-// a word in capitals for each value.
+// Writes the messages of all rooms and of the stand-in for the compiler, line by line as users read
+// of them: with its severity, and with a word in capitals for each value.
 
 #include <algorithm>
 #include <iostream>
@@ -7,6 +7,7 @@
 
 #include "cobol/Complaints.h"
 #include "driver/Complaints.h"
+#include "kcomp/Messages.h"
 #include "schema/Complaints.h"
 #include "support/Complaints.h"
 #include "xml/Complaints.h"
@@ -14,15 +15,17 @@
 
 namespace {
 
+void WriteLine(std::string line) {
+    std::erase_if(line, [](char c) { return c == '{' || c == '}'; });
+    line.erase(std::find_if(line.rbegin(), line.rend(), [](char c) { return c != '\n'; }).base(),
+               line.end());
+    std::cout << line << '\n';
+}
+
 template <typename Id>
 void List() {
     for (const MessageRow<Id>& row : kMessages<Id>) {
-        std::string line = FillMessage(row.severity, row.text, {});
-        std::erase_if(line, [](char c) { return c == '{' || c == '}'; });
-        line.erase(
-            std::find_if(line.rbegin(), line.rend(), [](char c) { return c != '\n'; }).base(),
-            line.end());
-        std::cout << line << '\n';
+        WriteLine(FillMessage(row.severity, row.text, {}));
     }
 }
 
@@ -35,5 +38,8 @@ int main() {
     List<SchemaMessage>();
     List<XmlgenMessage>();
     List<DriverMessage>();
+    for (const TextRow& row : kTextRows) {
+        WriteLine(std::string(row.text));
+    }
     return 0;
 }

@@ -79,7 +79,7 @@ public:
 
     ExpressionResult Read() {
         const Number value = TakeSum(0, 0);
-        return {m_sFault.empty() ? std::to_string(value) : "", m_sFault, m_nAt};
+        return {m_Fault.Empty() ? std::to_string(value) : "", m_Fault, m_nAt};
     }
 
 private:
@@ -87,7 +87,7 @@ private:
     /// counted, and with the three levels of precedence.
     Number TakeSum(int floor, int nesting) {
         Number value = TakeOperand(nesting);
-        while (m_sFault.empty()) {
+        while (m_Fault.Empty()) {
             const Operator* const found = OperatorAt(m_Words, m_nAt);
             const int precedence = found != nullptr && m_bPrecedence ? found->precedence : 1;
             if (found == nullptr || precedence <= floor) {
@@ -96,9 +96,9 @@ private:
             const std::size_t place = m_nAt++;
             const Number right = TakeSum(precedence, nesting);
             const std::optional<Number> result = found->apply(value, right);
-            if (m_sFault.empty() && !result) {
+            if (m_Fault.Empty() && !result) {
                 m_nAt = place;
-                m_sFault = "The expression has no whole number of 64 bits as its value";
+                m_Fault = TextOf<Message::ExpressionRange>();
             }
             value = result.value_or(0);
         }
@@ -109,10 +109,10 @@ private:
         if (IsMark(m_Words, m_nAt, "(") && nesting < kMostNested) {
             ++m_nAt;
             const Number value = TakeSum(0, nesting + 1);
-            if (m_sFault.empty() && !IsMark(m_Words, m_nAt, ")")) {
-                m_sFault = "A parenthesis of the expression is not closed";
+            if (m_Fault.Empty() && !IsMark(m_Words, m_nAt, ")")) {
+                m_Fault = TextOf<Message::OpenParenthesis>();
             }
-            m_nAt += m_sFault.empty() ? 1 : 0;
+            m_nAt += m_Fault.Empty() ? 1 : 0;
             return value;
         }
         if (m_nAt < m_Words.size() && IsWord(m_Words[m_nAt], "LENGTH")) {
@@ -125,7 +125,7 @@ private:
         }
         const std::size_t sign = text.starts_with('+') || text.starts_with('-') ? 1 : 0;
         if (!IsDigits(text.substr(sign)) || text.size() - sign > kMostDigits) {
-            m_sFault = "A whole number, a constant or LENGTH OF is expected in the expression";
+            m_Fault = TextOf<Message::NoOperand>();
             return 0;
         }
         ++m_nAt;
@@ -154,7 +154,7 @@ private:
                 continue;
             }
             if (found != nullptr) {
-                return FailAt(place, ", of which there are several");
+                return FailAt<Message::LengthOfSeveral>(place);
             }
             found = item->second;
         }
@@ -162,14 +162,14 @@ private:
             // It may have been left out with what could not be read.
             return 1;
         }
-        return found == nullptr ? FailAt(place, ", which does not stand before it")
+        return found == nullptr ? FailAt<Message::LengthOfUnknown>(place)
                                 : static_cast<Number>(StorageOf(*found, m_Context));
     }
 
-    Number FailAt(std::size_t place, std::string_view reason) {
+    template <Message kId>
+    Number FailAt(std::size_t place) {
         m_nAt = place;
-        const std::string name = place < m_Words.size() ? ShownWord(m_Words[place]) : "nothing";
-        m_sFault = "LENGTH OF names " + name + std::string(reason);
+        m_Fault = TextOf<kId>(place < m_Words.size() ? ShownWord(m_Words[place]) : "nothing");
         return 0;
     }
 
@@ -177,7 +177,7 @@ private:
     std::size_t m_nAt;
     bool m_bPrecedence;
     ReadingContext& m_Context;
-    std::string m_sFault;
+    CKTMessageText m_Fault;
 };
 
 }  // namespace

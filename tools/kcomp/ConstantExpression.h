@@ -9,9 +9,9 @@
 
 /// What the value of a named constant came to.
 struct ExpressionResult {
-    std::string value;    ///< the number; empty after a fault
-    std::string fault;    ///< the complaint about the word at `end`
-    std::size_t end = 0;  ///< the index behind the expression
+    std::string value;     ///< the number; empty after a fault
+    CKTMessageText fault;  ///< the complaint about the word at `end`
+    std::size_t end = 0;   ///< the index behind the expression
 };
 
 /// Whether an expression begins or goes on at `at`: with a parenthesis, LENGTH OF, or an operator.

@@ -59,7 +59,7 @@ void CKTEntryReader::ReadAttribute() {
 void CKTEntryReader::ReadBlank() {
     Skip("WHEN");
     if (!Skip("ZERO") && !Skip("ZEROS") && !Skip("ZEROES")) {
-        Fail("BLANK WHEN ZERO is not complete");
+        Fail(TextOf<Message::IncompleteBlank>());
     }
     m_pItem->blankWhenZero = true;
 }
@@ -111,7 +111,7 @@ void CKTEntryReader::ReadIndexed() {
 void CKTEntryReader::ReadIs() {
     const bool known = m_nAt == m_Words.size() || ClauseOf(m_Words[m_nAt]) != nullptr;
     if (known && !IsOneOf({"ATTRIBUTE", "EXTERNAL", "GLOBAL"})) {
-        Fail("\"IS\" is not expected here");
+        Fail(TextOf<Message::UnexpectedIs>());
     }
 }
 
@@ -163,13 +163,13 @@ void CKTEntryReader::ReadOccurs() {
     }
     const bool bounded = IsDigits(m_pItem->maxOccurs);
     if (!bounded && m_Context.inStorage) {
-        FailAt(start, "OCCURS UNBOUNDED has no storage in the WORKING-STORAGE SECTION");
+        FailAt(start, TextOf<Message::UnboundedStorage>());
         return;
     }
     const long maximum = bounded ? std::stol(m_pItem->maxOccurs) : 0;
     const bool rising = m_pItem->minOccurs.empty() || std::stol(m_pItem->minOccurs) < maximum;
     if (bounded && (maximum == 0 || !rising)) {
-        FailAt(start, "OCCURS has no rising bounds");
+        FailAt(start, TextOf<Message::OccursBounds>());
     }
 }
 
@@ -191,7 +191,7 @@ void CKTEntryReader::ReadPicture() {
         text += constant == nullptr ? word.text : *constant;
     }
     if (text.empty()) {
-        Fail("PICTURE has no character-string");
+        Fail(TextOf<Message::IncompletePicture>());
     }
     m_pItem->picture = text;
 }
@@ -212,7 +212,7 @@ void CKTEntryReader::ReadSign() {
     Skip("IS");
     const bool leading = Skip("LEADING");
     if (!leading && !Skip("TRAILING")) {
-        Fail("SIGN is neither LEADING nor TRAILING");
+        Fail(TextOf<Message::IncompleteSign>());
         return;
     }
     if (Skip("SEPARATE")) {
@@ -239,12 +239,12 @@ void CKTEntryReader::ReadUsage() {
 
 void CKTEntryReader::ReadUsageWord() {
     if (m_nAt == m_Words.size()) {
-        Fail("USAGE is not complete");
+        Fail(TextOf<Message::IncompleteUsage>());
         return;
     }
     const UsageWord* word = UsageOf(m_Words[m_nAt].text);
     if (word == nullptr) {
-        Fail("USAGE " + ShownWord(m_Words[m_nAt]) + " is not supported");
+        Fail(TextOf<Message::UnknownUsage>(ShownWord(m_Words[m_nAt])));
         return;
     }
     ++m_nAt;

@@ -73,7 +73,7 @@ void CKTEntryReader::ReadLevelAndName() {
     const bool known = (level >= 1 && level <= kHighestLevel) || level == kRenamesLevel ||
                        level == kLoneLevel || level == kConstantLevel || level == kConditionLevel;
     if (!known) {
-        Fail("Level " + text + " is none of 01 to 49, 66, 77, 78 and 88");
+        Fail(TextOf<Message::UnknownLevel>(text));
         return;
     }
     m_nAt = 1;
@@ -94,12 +94,12 @@ void CKTEntryReader::ReadClause() {
         if (IsDigits(word.text) && (BeginsLine(m_nAt) || word.text.size() == 2)) {
             FailForPeriod(m_nAt);
         } else {
-            Fail("Clause " + ShownWord(word) + " is not supported");
+            Fail(TextOf<Message::UnknownClause>(ShownWord(word)));
         }
         return;
     }
     if (!clause->name.empty() && !m_Seen.insert(clause->name).second) {
-        Fail("Clause " + std::string(clause->name) + " is given twice");
+        Fail(TextOf<Message::RepeatedClause>(clause->name));
         return;
     }
     m_nAt += clause->takesKeyword ? 0 : 1;
@@ -116,23 +116,23 @@ void CKTEntryReader::CheckEntry() {
     const bool constant = m_Seen.contains("CONSTANT");
     if (item.level == kConditionLevel) {
         if (item.name.empty() || item.values.empty() || !only({"VALUE", "FALSE"})) {
-            Fail("A condition-name has a name, a VALUE clause and nothing else");
+            Fail(TextOf<Message::ConditionClauses>());
         }
     } else if (item.level == kRenamesLevel) {
         if (item.name.empty() || item.renames.empty() || !only({"RENAMES"})) {
-            Fail("An entry of level 66 has a name, a RENAMES clause and nothing else");
+            Fail(TextOf<Message::RenamesClauses>());
         }
     } else if (item.level == kConstantLevel || constant) {
         if (item.name.empty() || item.values.size() != 1 || !item.values[0].through.empty() ||
             !only({"VALUE", "CONSTANT", "GLOBAL"})) {
-            Fail("A constant has a name, one value and nothing else");
+            Fail(TextOf<Message::ConstantClauses>());
         }
         m_pItem->isConstant = true;
     } else if (!item.renames.empty()) {
-        Fail("RENAMES belongs to level 66");
+        Fail(TextOf<Message::RenamesLevel>());
     } else if (item.values.size() > 1 ||
                (!item.values.empty() && !item.values[0].through.empty())) {
-        Fail("Only a condition-name has several values");
+        Fail(TextOf<Message::SeveralValues>());
     } else {
         CheckOccurs();
     }
@@ -142,10 +142,10 @@ void CKTEntryReader::CheckOccurs() {
     const DataItem& item = *m_pItem;
     if (item.maxOccurs.empty()) {
         if (!item.odo.empty() || m_Seen.contains("INDEXED BY") || m_bKeys) {
-            Fail("DEPENDING ON, INDEXED BY and keys belong to an OCCURS clause");
+            Fail(TextOf<Message::OccursMissing>());
         }
     } else if (item.odo.empty() && !item.minOccurs.empty()) {
-        Fail("OCCURS with TO needs DEPENDING ON");
+        Fail(TextOf<Message::OccursTo>());
     } else if (!item.odo.empty() && item.minOccurs.empty()) {
         m_pItem->minOccurs = "1";
     }
@@ -172,10 +172,10 @@ bool CKTEntryReader::BeginsLine(std::size_t at) const {
 
 /// Complains once, at the word `at`, and leaves the rest of the entry unread. Where a fault stands
 /// instead of a word, it is the reason.
-void CKTEntryReader::FailAt(std::size_t at, std::string_view text) {
+void CKTEntryReader::FailAt(std::size_t at, const CKTMessageText& text) {
     if (!m_bFailed) {
         const TextWord& word = m_Words[std::min(at, m_Words.size() - 1)];
-        m_Context.report.Error(word.place, word.kind == WordKind::Fault ? word.text : text);
+        m_Context.report.Error(word.place, word.kind == WordKind::Fault ? ComplaintOf(word) : text);
         m_nAt = m_Words.size();
         m_bFailed = true;
     }
@@ -184,6 +184,6 @@ void CKTEntryReader::FailAt(std::size_t at, std::string_view text) {
 /// Complains of the period that is missing before the level number at `at`, where the next entry
 /// begins.
 void CKTEntryReader::FailForPeriod(std::size_t at) {
-    FailAt(at, "The period before " + m_Words[at].text + " is missing");
+    FailAt(at, TextOf<Message::MissingPeriod>(m_Words[at].text));
     m_nAt = at;
 }

@@ -97,9 +97,9 @@ private:
     std::string TakeWordValue();
     void FailBecauseOfWord();
     [[nodiscard]] const std::string* ConstantOf(std::string_view name) const;
-    void Fail(std::string_view text) { FailAt(m_nAt, text); }
+    void Fail(const CKTMessageText& text) { FailAt(m_nAt, text); }
     [[nodiscard]] bool BeginsLine(std::size_t at) const;
-    void FailAt(std::size_t at, std::string_view text);
+    void FailAt(std::size_t at, const CKTMessageText& text);
     void FailForPeriod(std::size_t at);
 
     std::span<TextWord> m_Words;

@@ -65,8 +65,8 @@ std::string CKTEntryReader::TakeName() {
         IsName(m_Words[m_nAt].text)) {
         return m_Words[m_nAt++].text;
     }
-    Fail(m_nAt < m_Words.size() ? ShownWord(m_Words[m_nAt]) + " is no name"
-                                : "A name is missing at the end of the entry");
+    Fail(m_nAt < m_Words.size() ? TextOf<Message::NoName>(ShownWord(m_Words[m_nAt]))
+                                : TextOf<Message::MissingName>());
     return {};
 }
 
@@ -100,14 +100,14 @@ std::string CKTEntryReader::TakeInteger() {
             return number.substr(first);
         }
     }
-    Fail("A whole number of at most nine digits is expected");
+    Fail(TextOf<Message::NoInteger>());
     return {};
 }
 
 /// The text of a literal without its quotation marks.
 std::string CKTEntryReader::TakeLiteralText() {
     if (m_nAt == m_Words.size() || m_Words[m_nAt].kind != WordKind::Literal) {
-        Fail("A literal is expected");
+        Fail(TextOf<Message::NoLiteral>());
         return {};
     }
     return TextOfLiteral(m_Words[m_nAt++]);
@@ -125,7 +125,7 @@ std::string CKTEntryReader::TakeValue() {
         const bool literal = m_nAt < m_Words.size() && m_Words[m_nAt].kind == WordKind::Literal;
         const std::string next = literal ? WithDoubleMarks(m_Words[m_nAt].text) : "";
         if (!next.starts_with('"') || !value.starts_with('"')) {
-            Fail("Only plain literals can be joined by \"&\"");
+            Fail(TextOf<Message::JoinedLiterals>());
             return {};
         }
         ++m_nAt;
@@ -146,7 +146,7 @@ std::string CKTEntryReader::TakeConstant() {
     const bool precedence = m_pItem->level != kConstantLevel;
     ExpressionResult result = ReadExpression(m_Words, start, precedence, m_Context);
     m_nAt = result.end;
-    if (!result.fault.empty()) {
+    if (!result.fault.Empty()) {
         Fail(result.fault);
     }
     return result.value;
@@ -154,7 +154,7 @@ std::string CKTEntryReader::TakeConstant() {
 
 std::string CKTEntryReader::TakeWordValue() {
     if (m_nAt == m_Words.size()) {
-        Fail("A value is missing at the end of the entry");
+        Fail(TextOf<Message::MissingValue>());
         return {};
     }
     const TextWord& word = m_Words[m_nAt];
@@ -181,7 +181,7 @@ void CKTEntryReader::FailBecauseOfWord() {
         before.text.size() <= kLevelDigits) {
         FailForPeriod(m_nAt - 1);
     } else {
-        Fail(ShownWord(m_Words[m_nAt]) + " is no value");
+        Fail(TextOf<Message::NoValue>(ShownWord(m_Words[m_nAt])));
     }
 }
 

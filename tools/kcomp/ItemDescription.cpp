@@ -66,7 +66,7 @@ public:
 private:
     void DescribeGroup(DataItem& group, const Inherited& clauses) {
         if (group.justified || group.blankWhenZero) {
-            Complain(group, "is a group, which is neither JUSTIFIED nor BLANK WHEN ZERO");
+            Complain<Message::ItemIsGroup>(group);
         }
         std::size_t end = group.offset;
         for (const auto& child : group.children) {
@@ -88,7 +88,7 @@ private:
         const DataItem* object = item.redefined;
         const bool below = item.level > 1 && item.level <= kHighestLevel;
         if (below && object != nullptr && object->most > 0 && item.least > object->most) {
-            Complain(item, "is larger than " + Quoted(item.redefines) + ", which it redefines");
+            Complain<Message::ItemTooLarge>(item, Quoted(item.redefines));
         }
     }
 
@@ -98,11 +98,13 @@ private:
         if (StandsAlone(item.usage)) {
             item.category = Category::Numeric;
             if (!item.picture.empty() || item.justified || item.blankWhenZero) {
-                Complain(item, "has a usage that takes neither PICTURE nor JUSTIFIED nor BLANK");
+                Complain<Message::ItemTakesNoClauses>(item);
             }
-        } else if (item.picture.empty() == clauses.binaryPicture.empty()) {
-            Complain(item, item.picture.empty() ? "has neither a PICTURE nor items below it"
-                                                : "has a binary type, which takes no PICTURE");
+        } else if (item.picture.empty() && clauses.binaryPicture.empty()) {
+            Complain<Message::ItemWithoutPicture>(item);
+            return;
+        } else if (!item.picture.empty() && !clauses.binaryPicture.empty()) {
+            Complain<Message::ItemIsBinary>(item);
             return;
         } else if (!ReadItemPicture(item, clauses)) {
             return;
@@ -118,7 +120,7 @@ private:
             item.picture = clauses.binaryPicture;
         }
         item.description = ReadPicture(item.picture, m_Context.symbols);
-        if (!item.description.fault.empty()) {
+        if (!item.description.fault.Empty()) {
             m_Context.report.Error(item.picturePlace, item.description.fault);
             return false;
         }
@@ -146,8 +148,7 @@ private:
             (item.category == Category::NumericEdited && item.usage == Usage::National) ||
             (!national && item.usage == Usage::Display);
         if (!fits) {
-            Complain(item, "has USAGE " + std::string(UsageText(item.usage)) +
-                               ", which does not go with PICTURE " + Quoted(item.picture));
+            Complain<Message::ItemUsage>(item, UsageText(item.usage), Quoted(item.picture));
         }
         return fits;
     }
@@ -156,7 +157,7 @@ private:
         const bool text =
             item.category != Category::Numeric && item.category != Category::NumericEdited;
         if (item.justified && !text) {
-            Complain(item, "is numeric and cannot be JUSTIFIED");
+            Complain<Message::ItemJustified>(item);
             return false;
         }
         if (!item.blankWhenZero) {
@@ -164,7 +165,7 @@ private:
         }
         if (text || item.description.isSigned || IsBinaryOrPacked(item.usage) ||
             item.picture.find('*') != std::string::npos) {
-            Complain(item, "cannot be BLANK WHEN ZERO");
+            Complain<Message::ItemBlank>(item);
             return false;
         }
         // Blank is no number: the clause turns a numeric item into an edited one.
@@ -177,14 +178,15 @@ private:
         const bool takesSign = item.category == Category::Numeric && item.description.isSigned &&
                                (item.usage == Usage::Display || item.usage == Usage::National);
         if (item.sign != SignPosition::None && !takesSign) {
-            Complain(item, "has a SIGN clause but is no signed numeric item of USAGE DISPLAY");
+            Complain<Message::ItemSign>(item);
         }
         item.sign = takesSign ? sign : SignPosition::None;
     }
 
-    void Complain(const DataItem& item, const std::string& text) {
-        const std::string name = item.name.empty() ? "FILLER" : item.name;
-        m_Context.report.Error(item.place, "Item " + Quoted(name) + " " + text);
+    /// The first value of each of these messages is the name of the item.
+    template <Message kId, typename... Values>
+    void Complain(const DataItem& item, const Values&... values) {
+        m_Context.report.Error(item.place, TextOf<kId>(ShownName(item), values...));
     }
 
     ReadingContext& m_Context;

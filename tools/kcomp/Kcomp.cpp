@@ -62,7 +62,7 @@ bool ReadDirectives(const std::string& name, std::optional<SourceFormat>& format
         file.open(name);
     }
     if (!file.is_open()) {
-        report.Error({report.KeepName(name), 1}, "The directive file cannot be read");
+        report.Error({report.KeepName(name), 1}, TextOf<Message::UnreadableDirectives>());
         return false;
     }
     for (std::string line; std::getline(file, line);) {
@@ -103,20 +103,19 @@ void WriteDictionary(const std::string& path, const std::string& text, CKTReport
         if (opened) {
             std::filesystem::remove(temporary, ignored);
         }
-        report.Error({}, "The data dictionary " + Quoted(path) + " cannot be written");
+        report.Error({}, TextOf<Message::NotWritten>(Quoted(path)));
     }
 }
 
 void Run(const Arguments& arguments, CKTReport& report) {
     if (arguments.source.empty()) {
-        report.Error({}, "No source is given");
+        report.Error({}, TextOf<Message::NoSource>());
         return;
     }
     const std::string stem = StemOf(arguments.source);
     const std::string dictionary = stem + ".xml";
     if (dictionary == arguments.source) {
-        report.Error({report.KeepName(arguments.source), 1},
-                     "The source has the name of its dictionary");
+        report.Error({report.KeepName(arguments.source), 1}, TextOf<Message::SourceIsDictionary>());
         return;
     }
     std::optional<SourceFormat> format;
@@ -149,7 +148,7 @@ int main(int argc, char** argv) {
     try {
         Run(ReadArguments({argv + std::min(argc, 1), argv + argc}), report);
     } catch (const std::exception& e) {
-        report.Error({}, e.what());
+        report.Error({}, TextOf<Message::Fault>(e.what()));
     }
     std::cout.flush();
     return report.Errors() == 0 ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -56,14 +56,13 @@ public:
     }
 
     void Report(CKTReport& report, const SourcePlace& comment) const {
-        const std::string text = "Left out of the schema and the copybook, here first: ";
         for (std::size_t i = 0; i < kClauses.size(); ++i) {
             if (m_First.at(i).line > 0) {
-                report.Note(m_First.at(i), text + std::string(kClauses.at(i).shown));
+                report.Note(m_First.at(i), TextOf<Message::LeftOut>(kClauses.at(i).shown));
             }
         }
         if (comment.line > 0) {
-            report.Note(comment, text + "comments");
+            report.Note(comment, TextOf<Message::LeftOut>("comments"));
         }
     }
 

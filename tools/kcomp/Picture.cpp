@@ -6,6 +6,7 @@
 #include <array>
 #include <limits>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "kcomp/Text.h"
@@ -228,21 +229,21 @@ Picture ReadPicture(std::string_view text, const PictureSymbols& symbols) {
     Picture failed;
     const auto runs = RunsOf(text, symbols);
     if (!runs || runs->empty()) {
-        failed.fault = "PICTURE " + Quoted(text) + " holds what is no PICTURE symbol";
+        failed.fault = TextOf<Message::PictureSymbol>(Quoted(text));
         return failed;
     }
     if (std::any_of(runs->begin(), runs->end(), [](const Run& run) { return run.count == 0; })) {
-        failed.fault = "PICTURE " + Quoted(text) + " has a count of zero";
+        failed.fault = TextOf<Message::PictureCount>(Quoted(text));
         return failed;
     }
     const std::optional<Picture> picture = CKTPictureReader(*runs).Read();
     if (!picture) {
-        failed.fault = "PICTURE " + Quoted(text) + " fits no category of data";
+        failed.fault = TextOf<Message::PictureCategory>(Quoted(text));
     } else if (picture->digits > kMostDigits) {
-        failed.fault = "PICTURE " + Quoted(text) + " has more than 38 digits";
+        failed.fault = TextOf<Message::PictureDigits>(Quoted(text));
     } else if (picture->length >
                (picture->category == Category::National ? kLongest / 2 : kLongest)) {
-        failed.fault = "PICTURE " + Quoted(text) + " is too long";
+        failed.fault = TextOf<Message::PictureLength>(Quoted(text));
     }
-    return failed.fault.empty() ? *picture : failed;
+    return failed.fault.Empty() ? *picture : failed;
 }

@@ -2,8 +2,9 @@
 #define DORVEX_KCOMP_PICTURE_H
 
 #include <cstddef>
-#include <string>
 #include <string_view>
+
+#include "kcomp/Messages.h"
 
 /// What an elementary item holds.
 enum class Category {
@@ -26,7 +27,7 @@ struct Picture {
     std::size_t length = 0;    ///< character positions; of a numeric item its digits
     std::size_t digits = 0;    ///< digit positions of a numeric item, the P included
     std::size_t decimals = 0;  ///< those right of the decimal point
-    std::string fault;         ///< the complaint when the text is no PICTURE; the rest is then void
+    CKTMessageText fault;      ///< the complaint when the text is no PICTURE; the rest is then void
 };
 
 /// Reads a PICTURE character-string; counts in parentheses are numbers.

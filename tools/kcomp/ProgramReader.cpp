@@ -66,7 +66,7 @@ std::deque<ProgramData> CKTProgramReader::Read() {
     }
     EndArea();
     if (m_Programs.empty() && m_Context.report.Errors() == 0) {
-        m_Context.report.Error(m_Start, "The source holds no program and no data description");
+        m_Context.report.Error(m_Start, TextOf<Message::NoData>());
     }
     return std::move(m_Programs);
 }
@@ -135,12 +135,12 @@ void CKTProgramReader::TakeSection() {
         EndArea();
         m_Place = storage ? Place::WorkingStorage : Place::FileSection;
         if (!IsPeriod(m_nAt + 2)) {
-            m_Context.report.Error(m_Words[m_nAt].place, "The section header has no period");
+            m_Context.report.Error(m_Words[m_nAt].place, TextOf<Message::SectionWithoutPeriod>());
         }
     } else if (InData() || m_Place == Place::DataDivision) {
         if (!IsWordOf(kOtherSections, m_Words[m_nAt])) {
             m_Context.report.Error(m_Words[m_nAt].place,
-                                   "Section " + ShownWord(m_Words[m_nAt]) + " is not known");
+                                   TextOf<Message::UnknownSection>(ShownWord(m_Words[m_nAt])));
         }
         EndArea();
         m_Place = Place::Elsewhere;
@@ -182,10 +182,10 @@ void CKTProgramReader::TakeOutside() {
     const TextWord& word = m_Words[m_nAt];
     const bool counts = m_Place == Place::Environment || m_Place == Place::DataDivision;
     if (word.kind == WordKind::Fault && counts) {
-        m_Context.report.Error(word.place, word.text);
+        m_Context.report.Error(word.place, ComplaintOf(word));
         ++m_nAt;
     } else if (m_Place == Place::DataDivision && !IsSection(m_nAt + 1)) {
-        m_Context.report.Error(word.place, ShownWord(word) + " stands in no section");
+        m_Context.report.Error(word.place, TextOf<Message::OutsideSections>(ShownWord(word)));
         SkipPast(EndOfEntry());
     } else {
         TakeSpecialName();
@@ -211,7 +211,7 @@ void CKTProgramReader::TakeSpecialName() {
 void CKTProgramReader::TakeEntry() {
     const TextWord& word = m_Words[m_nAt];
     if (word.kind == WordKind::Fault) {
-        m_Context.report.Error(word.place, word.text);
+        m_Context.report.Error(word.place, ComplaintOf(word));
         ++m_nAt;
         if (m_Builder) {
             m_Builder->MarkDamaged();
@@ -230,15 +230,17 @@ void CKTProgramReader::TakeEntry() {
 void CKTProgramReader::TakeUnsupported() {
     const TextWord& word = m_Words[m_nAt];
     if (!Is(m_nAt, "EXEC")) {
-        m_Context.report.Error(word.place, ShownWord(word) + " begins no data description entry");
+        m_Context.report.Error(word.place, TextOf<Message::NoEntry>(ShownWord(word)));
         SkipPast(EndOfEntry());
         return;
     }
-    std::string text = "\"EXEC";
+    std::string text;
     for (std::size_t i = 1; i < 3 && m_nAt + i < m_Words.size(); ++i) {
-        text += ' ' + m_Words[m_nAt + i].text;
+        text += (i > 1 ? " " : "") + m_Words[m_nAt + i].text;
     }
-    m_Context.report.Error(word.place, text + "\" is not supported");
+    const bool alone = m_nAt + 1 == m_Words.size();
+    m_Context.report.Error(word.place,
+                           alone ? TextOf<Message::Exec>() : TextOf<Message::ExecOf>(text));
     while (m_nAt < m_Words.size() && !Is(m_nAt, "END-EXEC")) {
         ++m_nAt;
     }
@@ -250,16 +252,16 @@ void CKTProgramReader::TakeFile() {
     const TextWord& word = m_Words[m_nAt];
     const bool named = m_nAt + 1 < m_Words.size() && m_Words[m_nAt + 1].kind == WordKind::Word;
     if (!named) {
-        m_Context.report.Error(word.place, ShownWord(word) + " names no file");
+        m_Context.report.Error(word.place, TextOf<Message::FileWithoutName>(ShownWord(word)));
     }
     BeginArea(true, named ? m_Words[m_nAt + 1].text : "");
     const std::size_t end = EndOfEntry();
     for (std::size_t at = m_nAt + 1; at < end; ++at) {
         const TextWord& part = m_Words[at];
         if (part.kind == WordKind::Fault) {
-            m_Context.report.Error(part.place, part.text);
+            m_Context.report.Error(part.place, ComplaintOf(part));
         } else if (BeginsMissedEntry(at)) {
-            m_Context.report.Error(part.place, "The period before " + part.text + " is missing");
+            m_Context.report.Error(part.place, TextOf<Message::MissingPeriod>(part.text));
             m_nAt = at;
             return;
         }
@@ -285,13 +287,13 @@ void CKTProgramReader::TakeDataEntry() {
     CKTReport& report = m_Context.report;
     const std::size_t end = EndOfEntry();
     if (m_Replace.line > 0) {
-        report.Error(m_Replace, "\"REPLACE\" is not supported");
+        report.Error(m_Replace, TextOf<Message::Replace>());
         m_Replace = {};
     }
     if (!m_Builder) {
         const bool file = m_Place == Place::FileSection;
         if (file) {
-            report.Error(m_Words[m_nAt].place, "The record stands under no FD or SD");
+            report.Error(m_Words[m_nAt].place, TextOf<Message::RecordWithoutFile>());
         }
         BeginArea(file, "");
     }
@@ -304,7 +306,7 @@ void CKTProgramReader::TakeDataEntry() {
         m_Builder->Skip(std::move(item));
     } else {
         if (!IsPeriod(end)) {
-            report.Error(m_Words[end - 1].place, "The entry does not end with a period");
+            report.Error(m_Words[end - 1].place, TextOf<Message::EntryWithoutPeriod>());
         }
         if (item->isConstant) {
             m_Context.constants[ToUpper(item->name)] = item->values.front().value;

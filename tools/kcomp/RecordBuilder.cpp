@@ -6,10 +6,6 @@
 
 namespace {
 
-std::string ShownName(const DataItem& item) {
-    return Quoted(item.name.empty() ? "FILLER" : item.name);
-}
-
 // Between a name and the group that it is qualified by.
 constexpr std::string_view kOf = " OF ";
 
@@ -22,6 +18,10 @@ bool IsRepeated(const DataItem* item) {
 }
 
 }  // namespace
+
+std::string ShownName(const DataItem& item) {
+    return Quoted(item.name.empty() ? "FILLER" : item.name);
+}
 
 bool IsBelow(const DataItem* item, std::span<const std::string> groups) {
     std::size_t met = 0;
@@ -69,7 +69,7 @@ void CKTRecordBuilder::AddData(std::unique_ptr<DataItem> item) {
         DataItem* parent = m_Open.back().item;
         if (!parent->picture.empty()) {
             m_Context.report.Error(item->place,
-                                   ShownName(*item) + " stands under an item that has a PICTURE");
+                                   TextOf<Message::ParentHasPicture>(ShownName(*item)));
         }
         CheckLevel(*item, *parent);
         CheckRedefines(*item, m_Open.back().names);
@@ -91,18 +91,16 @@ void CKTRecordBuilder::CheckLevel(const DataItem& item, DataItem& parent) {
     if (parent.levelBelow == 0) {
         parent.levelBelow = item.level;
     } else if (parent.levelBelow != item.level) {
-        m_Context.report.Error(item.place, "The level of " + ShownName(item) +
-                                               " is that of no item before it in its group");
+        m_Context.report.Error(item.place, TextOf<Message::LevelBelow>(ShownName(item)));
     }
 }
 
 void CKTRecordBuilder::BeginRecord(std::unique_ptr<DataItem> item) {
     if (item->level > 1 && item->level != kLoneLevel && (!m_bBare || !m_Renames.empty())) {
-        m_Context.report.Error(item->place, ShownName(*item) + " stands under no level 01");
+        m_Context.report.Error(item->place, TextOf<Message::NoRecord>(ShownName(*item)));
     }
     if (item->level == kLoneLevel && m_Area.isFile) {
-        m_Context.report.Error(item->place,
-                               ShownName(*item) + " is of level 77, which is no record of a file");
+        m_Context.report.Error(item->place, TextOf<Message::LoneInFile>(ShownName(*item)));
     }
     Finish();
     m_pRecord = item.get();
@@ -115,8 +113,7 @@ void CKTRecordBuilder::AddCondition(std::unique_ptr<DataItem> item) {
         return;
     }
     if (m_pLast == nullptr) {
-        m_Context.report.Error(item->place,
-                               "Condition-name " + ShownName(*item) + " stands behind no item");
+        m_Context.report.Error(item->place, TextOf<Message::ConditionOfNothing>(ShownName(*item)));
         return;
     }
     item->parent = m_pLast;
@@ -135,7 +132,8 @@ void CKTRecordBuilder::AddConstant(std::unique_ptr<DataItem> item) {
 void CKTRecordBuilder::AddRenames(std::unique_ptr<DataItem> item) {
     if (m_pRecord == nullptr || !m_pRecord->isGroup) {
         if (!m_bDamaged) {
-            m_Context.report.Error(item->place, ShownName(*item) + " renames items of no record");
+            m_Context.report.Error(item->place,
+                                   TextOf<Message::RenamesOfNothing>(ShownName(*item)));
         }
         return;
     }
@@ -151,8 +149,8 @@ void CKTRecordBuilder::CheckRedefines(DataItem& item, Names& names) {
     if (!item.redefines.empty()) {
         const auto found = names.find(ToUpper(item.redefines));
         if (found == names.end()) {
-            m_Context.report.Error(item.place, "REDEFINES names " + Quoted(item.redefines) +
-                                                   ", which does not stand before it beside it");
+            m_Context.report.Error(item.place,
+                                   TextOf<Message::RedefinesUnknown>(Quoted(item.redefines)));
         } else {
             // What redefines a redefinition shares the storage of the first.
             DataItem* const object = found->second;
@@ -220,18 +218,16 @@ DataItem* CKTRecordBuilder::FindRenamed(const DataItem& item, const std::string&
         }
         // An item below two groups of one name stands there twice.
         if (found != nullptr && found != candidate->second) {
-            m_Context.report.Error(item.place, "RENAMES names " + Quoted(qualifiedName) +
-                                                   ", of which the record has several");
+            m_Context.report.Error(item.place,
+                                   TextOf<Message::RenamesSeveral>(Quoted(qualifiedName)));
             return nullptr;
         }
         found = candidate->second;
     }
     if (found == nullptr) {
-        m_Context.report.Error(item.place, "RENAMES names " + Quoted(qualifiedName) +
-                                               ", which the record does not have");
+        m_Context.report.Error(item.place, TextOf<Message::RenamesUnknown>(Quoted(qualifiedName)));
     } else if (IsRepeated(found)) {
-        m_Context.report.Error(item.place,
-                               "RENAMES names " + Quoted(qualifiedName) + ", which has OCCURS");
+        m_Context.report.Error(item.place, TextOf<Message::RenamesTable>(Quoted(qualifiedName)));
         return nullptr;
     }
     return found;
@@ -248,9 +244,8 @@ void CKTRecordBuilder::DescribeRenames(DataItem& item) {
         return;
     }
     if (last->offset < first->offset || (range && last == first)) {
-        m_Context.report.Error(item.place, "RENAMES names " + Quoted(item.renamesThrough) +
-                                               ", which does not stand behind " +
-                                               Quoted(item.renames));
+        m_Context.report.Error(item.place, TextOf<Message::RenamesOrder>(
+                                               Quoted(item.renamesThrough), Quoted(item.renames)));
         return;
     }
     item.renames = first->name;

@@ -67,6 +67,9 @@ private:
     std::unordered_multimap<std::string, DataItem*> m_ItemsOfRecord;
 };
 
+/// The name of the item as messages show it: between quotation marks, FILLER without one.
+std::string ShownName(const DataItem& item);
+
 /// Whether the item stands under groups of these names, given from the innermost on.
 bool IsBelow(const DataItem* item, std::span<const std::string> groups);
 

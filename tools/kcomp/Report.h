@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "kcomp/Messages.h"
+
 /// Where a word or an entry stands.
 struct SourcePlace {
     std::string_view file;  ///< the name that messages show, kept by the report
@@ -24,15 +26,15 @@ public:
 
     /// Writes "FILE(LINE) : Error : text" and counts it. A place without a file gives the
     /// name of this program alone. After a hundred complaints a last line says that there are more.
-    void Error(const SourcePlace& place, std::string_view text);
+    void Error(const SourcePlace& place, const CKTMessageText& text);
 
     /// Writes "FILE(LINE) : Note : text", which is not counted.
-    void Note(const SourcePlace& place, std::string_view text);
+    void Note(const SourcePlace& place, const CKTMessageText& text);
 
     [[nodiscard]] std::size_t Errors() const { return m_nErrors; }
 
 private:
-    void WriteLine(const SourcePlace& place, std::string_view kind, std::string_view text);
+    void WriteLine(const SourcePlace& place, std::string_view kind, const CKTMessageText& text);
 
     std::ostream& m_Out;
     std::deque<std::string> m_Names;

@@ -65,7 +65,7 @@ public:
             return c != kEndOfFileMark && c != ' ' && c != '\r' && c != '\n';
         };
         if (std::any_of(rest.begin(), rest.end(), isText)) {
-            AddFault("Text follows the mark of the end of file");
+            AddFault(TextOf<Message::TextAfterEnd>());
         }
     }
 
@@ -99,7 +99,7 @@ private:
         } else if (setsFormat && has("FIXED")) {
             m_Format = SourceFormat::Fixed;
         } else if (setsFormat || !(has("$SET") || has(">>PAGE") || has(">>LISTING"))) {
-            AddFault("Directive " + Quoted(directive) + " is not supported");
+            AddFault(TextOf<Message::Directive>(Quoted(directive)));
         }
     }
 
@@ -125,8 +125,7 @@ private:
             case 'd':
                 break;
             default:
-                AddFault("Column 7 holds " + Quoted(line.substr(kIndicator, 1)) +
-                         ", which is no indicator of the fixed format");
+                AddFault(TextOf<Message::Indicator>(Quoted(line.substr(kIndicator, 1))));
         }
     }
 
@@ -149,8 +148,8 @@ private:
         if (first == std::string_view::npos || !IsReadable(body)) {
             return;
         }
-        if (m_Lines.empty() || !m_Lines.back().fault.empty()) {
-            AddFault("There is no line to continue");
+        if (m_Lines.empty() || !m_Lines.back().fault.Empty()) {
+            AddFault(TextOf<Message::NothingToContinue>());
             return;
         }
         std::string& text = m_Lines.back().text;
@@ -163,7 +162,7 @@ private:
             text.append(kBodyWidth - std::min(m_nBody, kBodyWidth), ' ');
             ++column;
         } else {
-            AddFault("A continued literal begins with its quotation mark");
+            AddFault(TextOf<Message::Continuation>());
             return;
         }
         Append(body, column);
@@ -204,12 +203,12 @@ private:
     bool IsReadable(std::string_view body) {
         const bool readable = std::none_of(body.begin(), body.end(), IsControl);
         if (!readable) {
-            AddFault("The line holds a control character");
+            AddFault(TextOf<Message::ControlCharacter>());
         }
         return readable;
     }
 
-    void AddFault(std::string text) {
+    void AddFault(CKTMessageText text) {
         m_Lines.push_back({{}, {{0, m_nLine}}, std::move(text)});
         CloseLiteral();
     }

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "kcomp/Messages.h"
+
 enum class SourceFormat { Fixed, Free };
 
 /// Closes the files of an older system; nothing may follow it.
@@ -20,7 +22,7 @@ struct LogicalLine {
     };
     std::string text;
     std::vector<Segment> segments;
-    std::string fault;
+    CKTMessageText fault;
     std::size_t comment = 0;  ///< the first line of a comment that stands before or in it, or 0
     bool cut = false;         ///< a literal is open in column 72, and more text stands behind that
 };

@@ -12,7 +12,6 @@ namespace {
 constexpr std::size_t kMostNested = 50;
 constexpr std::size_t kMostCopied = 2'000'000;
 constexpr std::size_t kCostOfFile = 100;  // in words
-constexpr const char* kTooMuchText = "The copy files hold too much text";
 
 std::optional<std::string> ContentOf(const std::string& path) {
     std::error_code ignored;
@@ -56,10 +55,6 @@ bool IsReplace(const std::vector<TextWord>& words, std::size_t at) {
             IsWord(words[at + 1], "OFF"));
 }
 
-TextWord FaultAt(const SourcePlace& place, std::string text) {
-    return {WordKind::Fault, false, std::move(text), place};
-}
-
 }  // namespace
 
 std::optional<std::vector<TextWord>> CKTSourceReader::Read(const std::string& path,
@@ -67,7 +62,7 @@ std::optional<std::vector<TextWord>> CKTSourceReader::Read(const std::string& pa
     SourceFormat used = format.value_or(SourceFormat::Fixed);
     auto words = WordsOf(path, used, !format.has_value());
     if (!words) {
-        m_Report.Error({m_Report.KeepName(path), 1}, "The file cannot be read");
+        m_Report.Error({m_Report.KeepName(path), 1}, TextOf<Message::UnreadableFile>());
         return std::nullopt;
     }
     m_Open = {path};
@@ -114,34 +109,34 @@ std::vector<TextWord> CKTSourceReader::Expand(std::vector<TextWord> words, Sourc
 }
 
 std::vector<TextWord> CKTSourceReader::Copied(const CopyStatement& copy, SourceFormat format) {
-    const auto fault = [&copy](std::string text) {
-        return std::vector<TextWord>{FaultAt(copy.name.place, std::move(text))};
+    const auto fault = [&copy](const CKTMessageText& text) {
+        return std::vector<TextWord>{FaultAt(copy.name.place, text)};
     };
-    if (!copy.fault.empty()) {
+    if (!copy.fault.Empty()) {
         return fault(copy.fault);
     }
     const bool literal = copy.name.kind == WordKind::Literal;
     const std::string name = literal ? TextOfLiteral(copy.name) : copy.name.text;
     const std::optional<std::string> path = m_Library.Find(name, literal);
     if (!path) {
-        return fault("Copy file " + Quoted(name) + " is not found");
+        return fault(TextOf<Message::NoCopyFile>(Quoted(name)));
     }
     if (std::find(m_Open.begin(), m_Open.end(), *path) != m_Open.end()) {
-        return fault("Copy file " + Quoted(name) + " copies itself");
+        return fault(TextOf<Message::CopyOfItself>(Quoted(name)));
     }
     if (m_Open.size() > kMostNested) {
-        return fault("The copy files are nested too deep");
+        return fault(TextOf<Message::CopyTooDeep>());
     }
     if (m_nCopied > kMostCopied) {
-        return fault(kTooMuchText);
+        return fault(TextOf<Message::CopyTooLarge>());
     }
     auto words = WordsOf(*path, format, true);
     if (!words) {
-        return fault("Copy file " + Quoted(*path) + " cannot be read");
+        return fault(TextOf<Message::UnreadableCopyFile>(Quoted(*path)));
     }
     m_nCopied += words->size() + kCostOfFile;
     if (m_nCopied > kMostCopied) {
-        return fault(kTooMuchText);
+        return fault(TextOf<Message::CopyTooLarge>());
     }
     m_Open.push_back(*path);
     std::vector<TextWord> expanded = Expand(std::move(*words), format);
@@ -151,7 +146,7 @@ std::vector<TextWord> CKTSourceReader::Copied(const CopyStatement& copy, SourceF
     }
     auto replaced = ReplaceWords(expanded, copy.pairs, kMostCopied - m_nCopied);
     m_nCopied += replaced ? replaced->size() : kMostCopied;
-    return replaced ? std::move(*replaced) : fault(kTooMuchText);
+    return replaced ? std::move(*replaced) : fault(TextOf<Message::CopyTooLarge>());
 }
 
 // COPY name [SUPPRESS [PRINTING]] [REPLACING {operand BY operand}...].
@@ -168,14 +163,14 @@ CKTSourceReader::CopyStatement CKTSourceReader::ReadCopy(const std::vector<TextW
         (words[at].kind == WordKind::Word ||
          (words[at].kind == WordKind::Literal && words[at].text.find_first_of("\"'") == 0));
     if (!named) {
-        copy.fault = "COPY names no copy file";
+        copy.fault = TextOf<Message::CopyWithoutName>();
         return copy;
     }
     const SourcePlace place = copy.name.place;
     copy.name = words[at++];
     copy.name.place = place;
     if (is("OF") || is("IN")) {
-        copy.fault = "COPY from a named library is not supported";
+        copy.fault = TextOf<Message::CopyFromLibrary>();
         return copy;
     }
     if (is("SUPPRESS")) {
@@ -186,13 +181,13 @@ CKTSourceReader::CopyStatement CKTSourceReader::ReadCopy(const std::vector<TextW
         ++at;
         while (at < words.size() && words[at].kind != WordKind::Period) {
             if (!ReadPair(words, at, copy.pairs.emplace_back())) {
-                copy.fault = "The REPLACING phrase of COPY cannot be read";
+                copy.fault = TextOf<Message::Replacing>();
                 return copy;
             }
         }
     }
     if (at == words.size() || words[at].kind != WordKind::Period) {
-        copy.fault = "COPY does not end with a period";
+        copy.fault = TextOf<Message::CopyWithoutPeriod>();
     }
     return copy;
 }

@@ -30,8 +30,8 @@ private:
     struct CopyStatement {
         TextWord name;
         std::vector<Replacement> pairs;
-        std::size_t end = 0;  // the index behind the next period
-        std::string fault;    // the complaint about a statement that cannot be read
+        std::size_t end = 0;   // the index behind the next period
+        CKTMessageText fault;  // the complaint about a statement that cannot be read
     };
 
     std::optional<std::vector<TextWord>> WordsOf(const std::string& path, SourceFormat& format,

@@ -25,8 +25,8 @@ public:
         : m_Line(line), m_sText(line.text), m_sFile(file), m_Words(words) {}
 
     void Split() {
-        if (!m_Line.fault.empty()) {
-            m_Words.push_back({WordKind::Fault, false, m_Line.fault, Place()});
+        if (!m_Line.fault.Empty()) {
+            m_Words.push_back(FaultAt(Place(), m_Line.fault));
             return;
         }
         const std::size_t first = m_Words.size();
@@ -92,9 +92,8 @@ private:
         if (isMark(end)) {
             Add(WordKind::Literal, end + 1);
         } else {
-            const std::string_view cut = m_Line.cut ? "; text behind column 72 is not read" : "";
-            m_Words.push_back(
-                {WordKind::Fault, false, "The literal has no end" + std::string(cut), Place()});
+            m_Words.push_back(FaultAt(Place(), m_Line.cut ? TextOf<Message::CutLiteral>()
+                                                          : TextOf<Message::OpenLiteral>()));
             m_nAt = m_sText.size();
         }
     }
@@ -144,6 +143,14 @@ private:
 };
 
 }  // namespace
+
+TextWord FaultAt(const SourcePlace& place, const CKTMessageText& complaint) {
+    return {WordKind::Fault, false, complaint.Text(), place};
+}
+
+CKTMessageText ComplaintOf(const TextWord& fault) {
+    return CKTMessageText(fault.text);
+}
 
 std::vector<TextWord> SplitIntoWords(const std::vector<LogicalLine>& lines, std::string_view file) {
     std::vector<TextWord> words;

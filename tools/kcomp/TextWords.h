@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "kcomp/Messages.h"
 #include "kcomp/Report.h"
 #include "kcomp/SourceLines.h"
 
@@ -25,6 +26,12 @@ struct TextWord {
     SourcePlace place;
     SourcePlace comment = {};  ///< of a comment that stands before it or in its line, if any
 };
+
+/// A fault that stands at `place` instead of words, with what is to be said about it.
+TextWord FaultAt(const SourcePlace& place, const CKTMessageText& complaint);
+
+/// What is to be said about a word that is a fault.
+CKTMessageText ComplaintOf(const TextWord& fault);
 
 /// Splits logical lines into words; commas and semicolons between words are left out. `file` is
 /// the name for the places of the words. A literal without an end becomes a fault.
