@@ -105,23 +105,23 @@ void CKTProgressLine::Watch(std::ostream& stream) {
 }
 
 void CKTProgressLine::AddBytes(std::size_t count) {
-    m_nBytes += count;
-    if (m_nBytes >= m_nBytesToCheck) {
-        m_nBytesToCheck = m_nBytes + kBytesPerCheck;
-        ShowWhenDue();
-    }
+    Add(m_Bytes, count, kBytesPerCheck);
 }
 
 void CKTProgressLine::AddItems(std::size_t count) {
-    m_nItems += count;
-    if (m_nItems >= m_nItemsToCheck) {
-        m_nItemsToCheck = m_nItems + kItemsPerCheck;
+    Add(m_Items, count, kItemsPerCheck);
+}
+
+void CKTProgressLine::Add(Counter& counter, std::size_t count, std::size_t perCheck) {
+    counter.count += count;
+    if (counter.count >= counter.toCheck) {
+        counter.toCheck = counter.count + perCheck;
         ShowWhenDue();
     }
 }
 
 void CKTProgressLine::ShowWhenDue() {
-    if (m_bStopped || !m_bLineStart) {
+    if (!m_bLineStart) {
         return;
     }
     const TimePoint now = m_pNow();
@@ -140,9 +140,9 @@ void CKTProgressLine::ShowWhenDue() {
 }
 
 std::string CKTProgressLine::Text() const {
-    const std::string text = m_nItems > 0
-                                 ? MessageText<SupportMessage::BytesAndItems>(m_nBytes, m_nItems)
-                                 : MessageText<SupportMessage::BytesRead>(m_nBytes);
+    const std::string text =
+        m_Items.count > 0 ? MessageText<SupportMessage::BytesAndItems>(m_Bytes.count, m_Items.count)
+                          : MessageText<SupportMessage::BytesRead>(m_Bytes.count);
     return text.substr(0, WidthOf(m_nTerminal));
 }
 
@@ -163,7 +163,7 @@ void CKTProgressLine::Wipe() {
 
 void CKTProgressLine::Stop() {
     Wipe();
-    m_bStopped = true;
+    m_Due = TimePoint::max();
 }
 
 void StartProgress() {

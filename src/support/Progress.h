@@ -49,7 +49,7 @@ public:
     /// Count, and show the line when it is due, at most twice a second.
     void AddBytes(std::size_t count);
     void AddItems(std::size_t count);
-    void RestartBytes() { m_nBytes = m_nBytesToCheck = 0; }
+    void RestartBytes() { m_Bytes = {}; }
     /// What the user typed ended the line that was incomplete.
     void EndLine() { m_bLineStart = true; }
     /// Takes the line off the terminal, until it is due again or, with Stop, for good. Both may be
@@ -60,21 +60,25 @@ public:
 private:
     class CKTWatchedBuffer;
 
+    /// A count, and the one from which the clock is looked at again.
+    struct Counter {
+        std::size_t count = 0;
+        std::size_t toCheck = 0;
+    };
+
+    void Add(Counter& counter, std::size_t count, std::size_t perCheck);
     void ShowWhenDue();
     [[nodiscard]] std::string Text() const;
     void Draw(const std::string& text);
 
     int m_nTerminal;
     Clock m_pNow;
-    TimePoint m_Due;
+    TimePoint m_Due;  ///< the last one of the clock once the line is stopped
     std::array<std::unique_ptr<CKTWatchedBuffer>, 2> m_Watched;
-    std::size_t m_nBytes = 0;
-    std::size_t m_nBytesToCheck = 0;
-    std::size_t m_nItems = 0;
-    std::size_t m_nItemsToCheck = 0;
+    Counter m_Bytes;
+    Counter m_Items;
     std::size_t m_nShown = 0;  ///< the width of what stands on the terminal
     bool m_bLineStart = true;
-    bool m_bStopped = false;
 };
 
 #endif
