@@ -1,46 +1,14 @@
 #include "schema/KTXMLSchemaDoc.h"
 
-#include <sstream>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include "SchemaFiles.h"
 #include "SchemaTree.h"
-#include "schema/KTCOBOLGenerator.h"
 #include "schema/SchemaSet.h"
 
 namespace {
-
-TEST(SchemaDoc, DocumentAndGeneratorNumberTheirKindsApart) {
-    const struct {
-        const char* tag;
-        int document;
-        int generator;
-    } rows[] = {
-        {"xs:schema", 0, 0},     {"simpleType", 4, 4}, {"xs:enumeration", 5, 27},
-        {"group", 6, 5},         {"any", 17, 16},      {"appInfo", 20, 19},
-        {"appinfo", 28, 27},     {"keyRef", 22, 21},   {"keyref", 28, 27},
-        {"xs:redefine", 27, 26}, {"Element", 28, 27},  {"a:b:element", 28, 27},
-    };
-    for (const auto& [tag, document, generator] : rows) {
-        const CKTXMLElement e(tag);
-        EXPECT_EQ(static_cast<int>(CKTXMLSchemaDoc::getElementType(&e)), document) << tag;
-        EXPECT_EQ(static_cast<int>(CKTCOBOLGenerator::getElementType(&e)), generator) << tag;
-    }
-}
-
-TEST(SchemaDoc, FacetsAreNumberedByTheirLocalName) {
-    std::istringstream names(
-        "length minLength maxLength pattern enumeration whiteSpace maxInclusive maxExclusive "
-        "minInclusive minExclusive totalDigits fractionDigits Length");
-    int kind = 0;
-    for (std::string name; names >> name; ++kind) {
-        const CKTXMLElement e("xs:" + name);
-        EXPECT_EQ(static_cast<int>(CKTCOBOLGenerator::getFacetType(&e)), kind) << name;
-    }
-    EXPECT_EQ(CKTCOBOLGenerator::getFacetType(nullptr), FacetKind::None);
-}
 
 TEST(SchemaDoc, AttributesAreFoundByNameAsWrittenOrByValue) {
     CKTXMLElement root;
