@@ -1,12 +1,16 @@
+#include "schema/Facets.h"
+
+#include <array>
 #include <iostream>
 #include <memory>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
-#include "../support/RedirectedStream.h"
-#include "SchemaTree.h"
+#include "ElementTree.h"
+#include "RedirectedStream.h"
 #include "schema/KTCOBOLGenerator.h"
 
 namespace {
@@ -43,7 +47,7 @@ std::string Apply(Item* item, const char* facets, const Attributes& attributes =
     static CKTXMLElement root;
     CKTXMLElement* restriction = Add(&root, "xs:restriction", attributes);
     AddFacets(restriction, facets);
-    const RedirectedStream errors(std::cerr);
+    const CKTRedirectedStream errors(std::cerr);
     CKTCOBOLGenerator().ProcessElementFacets(item, restriction);
     return errors.Text();
 }
@@ -60,7 +64,7 @@ std::string Shown(const Item& item) {
 }
 
 TEST(Facets, LengthsAndDigitsActInDocumentOrder) {
-    const char* const rows[][3] = {
+    const std::vector<std::array<const char*, 3>> rows = {
         {"", "length=10 maxLength=5", "X(5)-1,"},
         {"", "length=10 minLength=3", "X(10)-1,"},
         {"", "length=10 minLength=12", "X(12)-1,"},
@@ -96,7 +100,7 @@ TEST(Facets, AWarningNamesAnItemWithoutXmlNameAsCobolDoes) {
 }
 
 TEST(Facets, WhiteSpaceIsExplainedByTheValueOfTheRestriction) {
-    const char* const rows[][2] = {
+    const std::vector<std::array<const char*, 2>> rows = {
         {"preserve",
          "No normalization is done, the value is not changed (this is the behavior required by  "
          "[XML 1.0 (Second Edition)] for element content)"},
@@ -119,7 +123,7 @@ TEST(Facets, WhiteSpaceIsExplainedByTheValueOfTheRestriction) {
 }
 
 TEST(Facets, EnumerationsReplaceInheritedConditionsAndMayMoveTheValue) {
-    const char* const rows[][2] = {
+    const std::vector<std::array<const char*, 2>> rows = {
         {"enumeration=A enumeration=B enumeration=A enumeration=C",
          "()-1,; 2/8 part X(4)-1,; 88/9 enumerator-1 A; 88/9 enumerator-2 B; 88/9 enumerator-4 C; "
          "3/9 code-value X(6)7,2"},

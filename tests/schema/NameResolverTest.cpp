@@ -1,85 +1,16 @@
+#include "schema/NameResolver.h"
+
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "SchemaFiles.h"
-#include "SchemaTree.h"
 #include "schema/KTCOBOLGenerator.h"
-#include "schema/SchemaSet.h"
 
 namespace {
 
-const std::string kXs = "http://www.w3.org/2001/XMLSchema";
-
-TEST(TypeResolution, ANamespaceOfXmlSchemaMakesATypeBuiltIn) {
-    const struct {
-        const char* uri;
-        const char* type;
-        bool expected;
-        const char* nameAfter;
-    } rows[] = {
-        {kXs.c_str(), "p:int", true, "int"},
-        {kXs.c_str(), "p:CDATA", true, "CDATA"},
-        {kXs.c_str(), "p:NMTOKENS", false, "NMTOKENS"},
-        {kXs.c_str(), "q:int", false, "q:int"},
-        {kXs.c_str(), "int", false, "int"},
-        {"http://www.w3.org/1999/XMLSchema", "p:int", true, "int"},
-        {"http://www.w3.org/2000/10/XMLSchema", "p:gDay", true, "gDay"},
-        {"see http://www.w3.org: XMLSchema", "p:int", true, "int"},
-        {"XMLSchema http://www.w3.org", "p:int", false, "p:int"},
-        {"http://www.w3.org/2001/xmlschema", "p:int", false, "p:int"},
-        {"https://www.w3.org/2001/XMLSchema", "p:int", false, "p:int"},
-        {"urn:XMLSchema", "p:int", false, "p:int"},
-    };
-    const CKTCOBOLGenerator generator;
-    for (const auto& row : rows) {
-        CKTXMLElement root;
-        const CKTXMLElement* context = Add(&root, "e", {{"xmlns:p", row.uri}});
-        std::string type = row.type;
-        EXPECT_EQ(CKTCOBOLGenerator().isSupportedDefaultSchemaType(context, type), row.expected)
-            << row.uri << " " << row.type;
-        EXPECT_EQ(type, row.nameAfter) << row.uri << " " << row.type;
-    }
-    CKTXMLElement root;
-    std::string type = "int";
-    EXPECT_TRUE(generator.isSupportedDefaultSchemaType(Add(&root, "e", {{"xmlns", kXs}}), type));
-    EXPECT_FALSE(generator.isSupportedDefaultSchemaType(nullptr, type));
-}
-
-// The size is the caller's; texts and counts are answered apart from the other numbers.
-TEST(TypeResolution, ATypeSetsPictureOrUsageAndNoSize) {
-    const struct {
-        const char* type;
-        const char* picture;
-        const char* usage;
-        bool fraction;
-        bool answer;
-    } rows[] = {
-        {"CDATA", "X", "DISPLAY", false, true},     {"unsignedInt", "9", "DISPLAY", false, true},
-        {"integer", "S9", "DISPLAY", false, false}, {"decimal", "S9", "DISPLAY", true, false},
-        {"float", "A", "COMP-1", false, false},     {"NMTOKENS", "A", "DISPLAY", false, false},
-        {"String", "A", "DISPLAY", false, false},
-    };
-    CKTXMLElement root;
-    const CKTXMLElement* context = Add(&root, "e", {{"xmlns:xs", kXs}});
-    const CKTCOBOLGenerator generator;
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.type);
-        CKTCOBOLRecordItem item;
-        item.m_sPicType = "A";
-        item.m_sUsage = "DISPLAY";
-        EXPECT_EQ(generator.convertXMLtoCOBOL(&item, context, std::string("xs:") + row.type),
-                  row.answer);
-        EXPECT_EQ(item.m_sPicType, row.picture);
-        EXPECT_EQ(item.m_sUsage, row.usage);
-        EXPECT_EQ(item.m_bHasFraction, row.fraction);
-        EXPECT_EQ(item.m_sPicLength, "");
-    }
-    EXPECT_FALSE(generator.convertXMLtoCOBOL(nullptr, context, "xs:string"));
-}
-
-TEST(TypeResolution, PrefixesAreBoundByTheNearestDeclarationAbove) {
+TEST(NameResolver, PrefixesAreBoundByTheNearestDeclarationAbove) {
     CKTXMLElement root;
     CKTXMLElement* schema =
         Add(&root, "schema", {{"xmlns:p", "urn:outer"}, {"targetNamespace", "urn:main"}});
@@ -88,12 +19,13 @@ TEST(TypeResolution, PrefixesAreBoundByTheNearestDeclarationAbove) {
     CKTXMLElement* second = Add(schema, "c");
     CKTXMLElement other;
     const CKTXMLElement* apart = Add(&other, "d");
-    const struct {
+    struct Row {
         const CKTXMLElement* context;
         const char* name;
         bool found;
         const char* uri;
-    } rows[] = {
+    };
+    const std::vector<Row> rows = {
         {first, "p:x", true, "urn:inner"},
         {inFirst, "p:x", true, "urn:inner"},
         {second, "p:x", true, "urn:outer"},
@@ -107,10 +39,10 @@ TEST(TypeResolution, PrefixesAreBoundByTheNearestDeclarationAbove) {
         {nullptr, "p:x", false, ""},
         {first, "", false, ""},
     };
-    const CurrentSchema current(schema);
+    const CKTCurrentSchema current(schema);
     const CKTCOBOLGenerator generator;
     for (const auto& row : rows) {
-        SCOPED_TRACE(&row - rows);
+        SCOPED_TRACE(&row - rows.data());
         std::string uri;
         EXPECT_EQ(generator.getTypeNamespace(row.context, row.name, uri), row.found);
         EXPECT_EQ(uri, row.uri);
@@ -126,7 +58,7 @@ TEST(TypeResolution, PrefixesAreBoundByTheNearestDeclarationAbove) {
     EXPECT_FALSE(generator.getNamespaceURI(first, "name", uri));
 }
 
-TEST(TypeResolution, ALookUpSearchesOneListOfTheDocumentThatTheNamespaceMeans) {
+TEST(NameResolver, ALookUpSearchesOneListOfTheDocumentThatTheNamespaceMeans) {
     CKTXMLElement root;
     CKTXMLElement* schema = Add(&root, "xs:schema",
                                 {{"targetNamespace", "urn:t"},
@@ -138,10 +70,10 @@ TEST(TypeResolution, ALookUpSearchesOneListOfTheDocumentThatTheNamespaceMeans) {
                             "attributeGroup", "simpleType"}) {
         made.push_back(Add(schema, std::string("xs:") + tag, {{"name", "n"}}));
     }
-    MemoryFiles files;
+    CKTMemoryFiles files;
     CKTSchemaSet set(files);
     CKTXMLSchemaDoc doc(&root, nullptr, "t.xsd", set);
-    const CurrentSchema current(schema);
+    const CKTCurrentSchema current(schema);
     CKTCOBOLGenerator generator(&doc);
     for (const DeclarationList list :
          {COMPLEX_TYPES, SIMPLE_TYPES, ELEMENTS, ATTRIBUTES, GROUPS, ATTRIBUTE_GROUPS}) {
