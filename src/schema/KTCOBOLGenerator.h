@@ -33,8 +33,8 @@ public:
     /// arguments go to the copybook writer: data-name prefix, count-in clauses, unique names.
     /// Returns whether the text went to the file. A file that cannot be written completely is an
     /// error line.
-    bool GenerateFile(const std::string& outputName, const std::string& prefix,
-                      bool countIn, bool uniqueNames);
+    bool GenerateFile(const std::string& outputName, const std::string& prefix, bool countIn,
+                      bool uniqueNames);
 
     /// Converts `e`: the records of a `schema` element are written, what any other element yields
     /// is walked into `*current` (null at the top), which becomes its parent when it turns out

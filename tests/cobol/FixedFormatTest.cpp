@@ -1,10 +1,11 @@
 #include <iostream>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
-#include "../support/RedirectedStream.h"
+#include "RedirectedStream.h"
 #include "cobol/KTCOBOLRecordItem.h"
 
 namespace {
@@ -25,11 +26,12 @@ TEST(FixedFormat, EntriesStayWithinColumn72) {
     const std::string cutBlanks = kNextLine + Of(62, ' ') + full + full + full + kContinued;
     const std::string lit = "01 A identified by \"";
     const std::string litStart = kEntry + "01 A identified by " + kNextLine + kQuote;
-    const struct {
+    struct Row {
         const char* what;
         std::string line;
         std::string expected;
-    } rows[] = {
+    };
+    const std::vector<Row> rows = {
         {"up to column 72", "01 A " + Of(60, 'w'), kEntry + "01 A " + Of(60, 'w')},
         {"one more", "01 A " + Of(61, 'w'), kEntry + "01 A " + kNextLine + Of(61, 'w')},
         {"blank behind 72", Of(65, 'w') + "  B.", kEntry + Of(65, 'w') + kNextLine + "  B."},
@@ -98,7 +100,7 @@ TEST(FixedFormat, AFailedStreamIsLeftAlone) {
     std::ostringstream failed;
     failed.setstate(std::ios::badbit);
     int column = 73;
-    const RedirectedStream console(std::cout);
+    const CKTRedirectedStream console(std::cout);
     CKTCOBOLRecordItem::OutputCOBOLToken("01", failed, 0, column, false);
     EXPECT_EQ(console.Text(), "");
     CKTCOBOLRecordItem::OutputFixedFormatCOBOL("01 A.", failed);

@@ -1,5 +1,6 @@
 #include "cobol/KTCOBOLRecordItem.h"
 
+#include <array>
 #include <iostream>
 #include <memory>
 #include <random>
@@ -8,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "../support/RedirectedStream.h"
+#include "RedirectedStream.h"
 
 namespace {
 
@@ -29,13 +30,13 @@ Item* AddTo(Item* parent, const char* name, const char* picture = "") {
 }
 
 std::string Written(Item* item, const char* prefix, bool unique) {
-    const RedirectedStream output(std::cout);
+    const CKTRedirectedStream output(std::cout);
     Item::OutputCOBOLItem(item, prefix, true, unique);
     return output.Text();
 }
 
 TEST(RecordItem, OnlyItemsWithSomethingToWriteAreValid) {
-    const struct {
+    struct Row {
         int level;
         const char* name;
         const char* type;
@@ -44,7 +45,8 @@ TEST(RecordItem, OnlyItemsWithSomethingToWriteAreValid) {
         const char* value;
         int childLevel;
         char expected;  // v: valid, w: refused with a warning, i: refused in silence
-    } rows[] = {
+    };
+    const std::vector<Row> rows = {
         {1, "A", "X", "80", "", "", 0, 'v'},     {49, "A", "9", "4", "", "", 0, 'v'},
         {50, "A", "X", "80", "", "", 0, 'i'},    {0, "A", "X", "80", "", "", 0, 'i'},
         {-1, "A", "X", "80", "", "", 0, 'i'},    {1, "", "X", "80", "", "", 0, 'i'},
@@ -56,7 +58,7 @@ TEST(RecordItem, OnlyItemsWithSomethingToWriteAreValid) {
         {1, "A", "", "9", "", "", 2, 'w'},       {1, "A", "", "", "", "", 0, 'w'},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(&row - rows);
+        SCOPED_TRACE(&row - rows.data());
         const auto item = MakeItem(row.level, row.name, row.type);
         item->m_sPicLength = row.length;
         item->m_sUsage = row.usage;
@@ -64,7 +66,7 @@ TEST(RecordItem, OnlyItemsWithSomethingToWriteAreValid) {
         if (row.childLevel != 0) {
             item->AddChild(MakeItem(row.childLevel, "B", "X"))->m_sValue = "v";
         }
-        const RedirectedStream errors(std::cerr);
+        const CKTRedirectedStream errors(std::cerr);
         EXPECT_EQ(item->IsValidCOBOLItem(), row.expected == 'v');
         EXPECT_EQ(item->IsValidCOBOLItem(), row.expected == 'v');
         EXPECT_EQ(errors.Text(), row.expected != 'w' ? ""
@@ -76,14 +78,15 @@ TEST(RecordItem, OnlyItemsWithSomethingToWriteAreValid) {
 }
 
 TEST(RecordItem, PicturesShareTheDigitsBetweenBothSidesOfThePoint) {
-    const struct {
+    struct Row {
         const char* type;
         const char* length;
         int digits;
         const char* fraction;
         bool decimal;
         const char* expected;
-    } rows[] = {
+    };
+    const std::vector<Row> rows = {
         {"X", "80", -1, "", false, " PIC X(80)"},      {"9", "18", 5, "", false, " PIC 9(5)"},
         {"9", "18", 5, "2", false, " PIC 9(3)"},       {"S9", "9", -1, "", true, " PIC S9(9)"},
         {"S9", "9", -1, "2", true, " PIC S9(9)V9(2)"}, {"S9", "9", -1, "0", true, " PIC S9(9)"},
@@ -125,21 +128,19 @@ TEST(RecordItem, ClausesFollowInTheirOrder) {
     Item* condition = third->AddChild(MakeItem(88, "E"));
     condition->m_sValue = "say \"x\"";
 
-    const RedirectedStream errors(std::cerr);
-    const int before = m_nErrorCount;
+    const CKTRedirectedConsole console;
     EXPECT_EQ(Written(top.get(), "P-", false),
               "       01 P-A identified by \"a\" namespace is \"urn:a\" count in A-count.\n"
               "         02 P-B PIC X(1) occurs 4 times is attribute.\n"
               "       02 P-C redefines P-B USAGE COMP-2 namespace is \"urn:c\".\n"
               "       02 P-D PIC 9(1).\n"
               "       88 P-E value is \"say \"\"x\"\"\".\n");
-    EXPECT_EQ(errors.Text(), "Error : Redefines specified, but no COBOL name present\n");
-    EXPECT_EQ(m_nErrorCount - before, 1);
-    const RedirectedStream output(std::cout);
+    EXPECT_EQ(console.Errors(), "Error : Redefines specified, but no COBOL name present\n");
+    EXPECT_EQ(console.Counted(), 1);
     EXPECT_FALSE(Item::OutputCOBOLItem(nullptr, "", true, true));
     EXPECT_FALSE(Item::OutputCOBOLItem(unnamed.get(), "", false, false));
     EXPECT_TRUE(Item::OutputCOBOLItem(same, "", false, false));
-    EXPECT_EQ(output.Text(), "         02 B PIC X(1) occurs 4 times is attribute.\n");
+    EXPECT_EQ(console.Output(), "         02 B PIC X(1) occurs 4 times is attribute.\n");
 }
 
 TEST(RecordItem, LaterNamesakesAreNumbered) {
@@ -171,14 +172,14 @@ TEST(RecordItem, LaterNamesakesAreNumbered) {
 
 // Few names and many levels, some items that cannot be written among them.
 std::unique_ptr<Item> MakeRecord(unsigned number) {
-    static const char* const kNames[] = {"A", "B", "A-1", "B-1", "A-1-1", "C"};
+    static constexpr std::array<const char*, 6> kNames = {"A", "B", "A-1", "B-1", "A-1-1", "C"};
     std::mt19937 next(number);
     auto top = MakeItem(1, "A");
     std::vector<Item*> items = {top.get()};
     for (int i = 0; i < 120; ++i) {
         Item* parent = items[next() % items.size()];
         const char* picture = next() % 4 != 0 ? "X" : "";
-        items.push_back(AddTo(parent, kNames[next() % 6], picture));
+        items.push_back(AddTo(parent, kNames.at(next() % kNames.size()), picture));
     }
     return top;
 }
@@ -202,7 +203,7 @@ void RenameByTheSearch(Item* top, Item* item) {
 }
 
 TEST(RecordItem, NumbersAreThoseOfTheSearchForAnEarlierNamesake) {
-    const RedirectedStream errors(std::cerr);
+    const CKTRedirectedStream errors(std::cerr);
     for (unsigned number = 1; number <= 20; ++number) {
         const auto searched = MakeRecord(number);
         RenameByTheSearch(searched.get(), searched.get());

@@ -1,26 +1,26 @@
 #include "driver/CommandLine.h"
 
 #include <clocale>
-#include <iostream>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "../support/RedirectedStream.h"
+#include "RedirectedStream.h"
 
 namespace {
 
 TEST(CommandLine, AnOptionTakesTheRestOfItsArgumentOrTheNextOne) {
     ASSERT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
     const std::string incomplete = "Error : Ignoring incomplete command-line option \"-c\"\n";
-    const struct {
+    struct Row {
         std::vector<std::string> arguments;
         std::string value;
         int index;
         std::string output;
         std::string errors;
-    } rows[] = {
+    };
+    const std::vector<Row> rows = {
         {{"dorvex", "-Cout.cpy", "a.cbl"}, "out.cpy", 1, "", ""},
         {{"dorvex", "-c", "-log", "a.cbl"}, "-log", 2, "", ""},
         {{"dorvex", "-C", ""}, "", 2, "", ""},
@@ -35,17 +35,15 @@ TEST(CommandLine, AnOptionTakesTheRestOfItsArgumentOrTheNextOne) {
         for (std::string& argument : row.arguments) {
             argv.push_back(argument.data());
         }
-        const RedirectedStream output(std::cout);
-        const RedirectedStream errors(std::cerr);
-        const int before = m_nErrorCount;
+        const CKTRedirectedConsole console;
         EXPECT_EQ(
             ProcessCmdLineNameValue(static_cast<int>(argv.size()), argv.data(), 1, "-C", value),
             row.index)
             << row.arguments[1];
         EXPECT_EQ(value, row.value) << row.arguments[1];
-        EXPECT_EQ(output.Text(), row.output) << row.arguments[1];
-        EXPECT_EQ(errors.Text(), row.errors) << row.arguments[1];
-        EXPECT_EQ(m_nErrorCount - before, row.output.empty() && row.errors.empty() ? 0 : 1);
+        EXPECT_EQ(console.Output(), row.output) << row.arguments[1];
+        EXPECT_EQ(console.Errors(), row.errors) << row.arguments[1];
+        EXPECT_EQ(console.Counted(), row.output.empty() && row.errors.empty() ? 0 : 1);
     }
 }
 

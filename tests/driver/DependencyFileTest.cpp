@@ -1,20 +1,16 @@
 #include "driver/DependencyFile.h"
 
-#include <filesystem>
-
 #include <gtest/gtest.h>
 
-#include "../support/CaseFiles.h"
+#include "ScratchFiles.h"
 
 namespace {
 
 TEST(DependencyRule, NamesWhatIsThereInTheFormOfMake) {
-    const casetest::ScratchDirectory scratch;
-    const std::filesystem::path before = std::filesystem::current_path();
-    std::filesystem::current_path(scratch.Path());
+    const CKTWorkingDirectory directory;
     for (const char* name :
          {"plain.xsd", "a b.xsd", "c#d$e", "f\\ g", "h:i", "new\nline", "o.cpy"}) {
-        casetest::WriteFile(name, "");
+        WriteFile(name, "");
     }
     FilesUsed files;
     files.read = {"plain.xsd", "gone.xsd", "a b.xsd",   "c#d$e",
@@ -26,7 +22,6 @@ TEST(DependencyRule, NamesWhatIsThereInTheFormOfMake) {
               "  h\\:i\n");
     files.areOutputsWritten = false;
     EXPECT_EQ(DependencyRule(files), "");
-    std::filesystem::current_path(before);
 }
 
 }  // namespace

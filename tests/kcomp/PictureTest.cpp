@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -40,7 +40,7 @@ void Check(const Row& row) {
 }
 
 TEST(Picture, SymbolsDecideCategoryAndSize) {
-    const Row rows[] = {
+    const std::vector<Row> rows = {
         // The P is a digit that takes up no room.
         {"num 1: 1,0", "9 9V"},
         {"num 5: 5,0 S", "s9(5) S99999 S9(2)9(003)"},
@@ -61,11 +61,11 @@ TEST(Picture, SymbolsDecideCategoryAndSize) {
         {"num-edited 10", "99/99/9999"},
         {"num-edited 12", "$$$,$$9.99CR"},
     };
-    std::for_each(std::begin(rows), std::end(rows), Check);
+    std::for_each(rows.begin(), rows.end(), Check);
 }
 
 TEST(Picture, WhatIsNoPictureIsNamed) {
-    const Row rows[] = {
+    const std::vector<Row> rows = {
         {"holds what is no PICTURE symbol", "K9 9C G(5) X() X(2 X(A) (2)"},
         {"has a count of zero", "9(0) X(0) 9(0)9 99(00)V9"},
         {"fits no category of data",
@@ -75,7 +75,7 @@ TEST(Picture, WhatIsNoPictureIsNamed) {
         {"has more than 38 digits", "S9(39) 9(20)V9(19) 9P(38)"},
         {"is too long", "X(2147483648) X(99999999999999999999)9(99999999999999999999)"},
     };
-    std::for_each(std::begin(rows), std::end(rows), Check);
+    std::for_each(rows.begin(), rows.end(), Check);
     EXPECT_EQ(Shown(""), rows[0].expected);
 }
 

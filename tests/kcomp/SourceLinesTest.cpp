@@ -1,5 +1,6 @@
 #include "kcomp/SourceLines.h"
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -46,7 +47,7 @@ const std::string kMore = "      -    ";
 
 TEST(SourceLines, TheFirstColumnsTellTheFormat) {
     using Sources = std::vector<std::string>;
-    const std::pair<const char*, Sources> rows[] = {
+    const std::vector<std::pair<const char*, Sources>> rows = {
         {"as the caller says",
          {"", "\n   \n", "       01 A.\n", "\t01 A.\n", "      *> A note.\n",
           "      -    LONG.\n      $SET ANS\n      D    05 B.\n", "CR0815 01 A.\nCR0815*Note.\n"}},
@@ -70,52 +71,56 @@ TEST(SourceLines, TheFirstColumnsTellTheFormat) {
 
 TEST(SourceLines, FixedTextStandsInColumns8To72) {
     const std::string wide = kBody + "01 A" + Of(61, ' ');
-    EXPECT_EQ(Fixed("000100 01 A.\r\n000200\r\n000300    05 B."), "1: 01 A . 3: 05 B .");
-    EXPECT_EQ(Fixed(wide + "IDENT001\n" + kBody + "."), "1: 01 A 2: .");
-    EXPECT_EQ(Fixed(kBody + "01 " + Of(62, 'A') + "BCD.\n"), "1: 01 " + Of(62, 'A'));
-    EXPECT_EQ(
-        Fixed("      * 01 A.\n      / 01 B.\n      D 01 C.\n      d 01 D.\n\f\n      \f01 E.\n"),
-        "6: 01 E .");
-    EXPECT_EQ(Fixed("000100\t01\tA.\n\t02 B.\t*> \"a\n"), "1: 01 A . 2: 02 B .");
-    EXPECT_EQ(Fixed("      x 01 A.\n"),
-              "1: !Column 7 holds \"x\", which is no indicator of the fixed format");
-    EXPECT_EQ(
-        Fixed(kBody + "01 A.\n" + kBody + "02\x01.\n" + kBody + "03 B.\x1A\n" + kBody + "04."),
-        "1: 01 A . 2: !The line holds a control character 3: 03 B . !Text follows the mark of the "
-        "end "
-        "of file");
+    const std::vector<std::array<std::string, 2>> rows = {
+        {"000100 01 A.\r\n000200\r\n000300    05 B.", "1: 01 A . 3: 05 B ."},
+        {wide + "IDENT001\n" + kBody + ".", "1: 01 A 2: ."},
+        {kBody + "01 " + Of(62, 'A') + "BCD.\n", "1: 01 " + Of(62, 'A')},
+        {"      * 01 A.\n      / 01 B.\n      D 01 C.\n      d 01 D.\n\f\n      \f01 E.\n",
+         "6: 01 E ."},
+        {"000100\t01\tA.\n\t02 B.\t*> \"a\n", "1: 01 A . 2: 02 B ."},
+        {"      x 01 A.\n", "1: !Column 7 holds \"x\", which is no indicator of the fixed format"},
+        {kBody + "01 A.\n" + kBody + "02\x01.\n" + kBody + "03 B.\x1A\n" + kBody + "04.",
+         "1: 01 A . 2: !The line holds a control character 3: 03 B . !Text follows the mark of the "
+         "end of file"},
+    };
+    for (const auto& [source, expected] : rows) {
+        EXPECT_EQ(Fixed(source), expected) << source;
+    }
 }
 
 TEST(SourceLines, ContinuedLinesAreOne) {
-    // A word goes on behind its last character, a literal behind column 72.
-    EXPECT_EQ(Fixed(kBody + "01 CUST   \n      * A note.\n\n" + kMore + "OMER PIC X.\n"),
-              "1: 01 CUSTOMER 4: PIC X .");
-    EXPECT_EQ(Fixed(kBody + "01 A VALUE 'a\n" + kMore + "'b''c'.\n"),
-              "1: 01 A VALUE 'a" + Of(52, ' ') + "b''c' 2: .");
-    EXPECT_EQ(Fixed(kBody + "\"" + Of(64, 'a') + "IDENT\n" + kMore + "\"" + Of(54, 'b') + "\n" +
-                    kMore + "\" c\"\n"),
-              "1: \"" + Of(64, 'a') + Of(54, 'b') + Of(6, ' ') + " c\"");
-    // Two marks begin the second line: one restarts the literal, one ends the pair.
-    EXPECT_EQ(Fixed(kBody + "'" + Of(63, 'a') + "'\n" + kMore + "''b'.\n"),
-              "1: '" + Of(63, 'a') + "''b' 2: .");
-    EXPECT_EQ(Fixed(kBody + "'" + Of(63, 'a') + "'\n" + kMore + "'''\n" + kMore + ".\n"),
-              "1: '" + Of(63, 'a') + "''' 3: .");
-    EXPECT_EQ(Fixed(kBody + "'" + Of(63, 'a') + "'\n" + kMore + ".\n" + kBody + "''c'\n"),
-              "1: '" + Of(63, 'a') + "' 2: . 3: '' ~c !The literal has no end");
     const std::string open = kBody + "'" + Of(64, 'a');
-    EXPECT_EQ(Fixed(open + "b'.\n"),
-              "1: !The literal has no end; text behind column 72 is not read");
-    EXPECT_EQ(Fixed(open + "b'.\n" + kMore + "'b\n"), "1: !The literal has no end");
-    EXPECT_EQ(Fixed(kMore + "A.\n"), "1: !There is no line to continue");
-    EXPECT_EQ(Fixed(kBody + "A VALUE 'a\n" + kMore + "\"b\".\n" + kMore + "C.\n"),
-              "1: A VALUE !The literal has no end 2: !A continued literal begins with its "
-              "quotation mark 3: !There is no line to continue");
-    EXPECT_EQ(Fixed(kBody + "A 'a\n" + kBody + "B.\n"), "1: A !The literal has no end 2: B .");
+    const std::vector<std::array<std::string, 2>> rows = {
+        // A word goes on behind its last character, a literal behind column 72.
+        {kBody + "01 CUST   \n      * A note.\n\n" + kMore + "OMER PIC X.\n",
+         "1: 01 CUSTOMER 4: PIC X ."},
+        {kBody + "01 A VALUE 'a\n" + kMore + "'b''c'.\n",
+         "1: 01 A VALUE 'a" + Of(52, ' ') + "b''c' 2: ."},
+        {kBody + "\"" + Of(64, 'a') + "IDENT\n" + kMore + "\"" + Of(54, 'b') + "\n" + kMore +
+             "\" c\"\n",
+         "1: \"" + Of(64, 'a') + Of(54, 'b') + Of(6, ' ') + " c\""},
+        // Two marks begin the second line: one restarts the literal, one ends the pair.
+        {kBody + "'" + Of(63, 'a') + "'\n" + kMore + "''b'.\n", "1: '" + Of(63, 'a') + "''b' 2: ."},
+        {kBody + "'" + Of(63, 'a') + "'\n" + kMore + "'''\n" + kMore + ".\n",
+         "1: '" + Of(63, 'a') + "''' 3: ."},
+        {kBody + "'" + Of(63, 'a') + "'\n" + kMore + ".\n" + kBody + "''c'\n",
+         "1: '" + Of(63, 'a') + "' 2: . 3: '' ~c !The literal has no end"},
+        {open + "b'.\n", "1: !The literal has no end; text behind column 72 is not read"},
+        {open + "b'.\n" + kMore + "'b\n", "1: !The literal has no end"},
+        {kMore + "A.\n", "1: !There is no line to continue"},
+        {kBody + "A VALUE 'a\n" + kMore + "\"b\".\n" + kMore + "C.\n",
+         "1: A VALUE !The literal has no end 2: !A continued literal begins with its "
+         "quotation mark 3: !There is no line to continue"},
+        {kBody + "A 'a\n" + kBody + "B.\n", "1: A !The literal has no end 2: B ."},
+    };
+    for (const auto& [source, expected] : rows) {
+        EXPECT_EQ(Fixed(source), expected) << source;
+    }
     EXPECT_EQ(Free("A 'a\n- 'b' \"*>\" *> 'c\n"), "1: A !The literal has no end 2: - 'b' \"*>\"");
 }
 
 TEST(SourceLines, DirectivesSetTheFormatFromTheNextLineOn) {
-    const char* const rows[][2] = {
+    const std::vector<std::array<const char*, 2>> rows = {
         {">>SOURCE FORMAT IS FREE\n01 A.\n", "2: 01 A . (free)"},
         {"       >>source free.\n05 A.\n", "2: 05 A . (free)"},
         {"      $SET SOURCEFORMAT\"FREE\"\n05 A.\n", "2: 05 A . (free)"},
@@ -134,7 +139,7 @@ TEST(SourceLines, DirectivesSetTheFormatFromTheNextLineOn) {
 }
 
 TEST(SourceLines, WordsEndAtSeparatorsMarksAndLiterals) {
-    const char* const rows[][2] = {
+    const std::vector<std::array<const char*, 2>> rows = {
         {"A, B; C.", "1: A B C ."},
         {"1,2 1.5. 1;2.", "1: 1,2 1.5 . 1;2 ."},
         {"'A','B'", "1: 'A' 'B'"},

@@ -1,5 +1,6 @@
 #include "kcomp/SourceReader.h"
 
+#include <array>
 #include <filesystem>
 #include <sstream>
 #include <string>
@@ -7,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include "../support/CaseFiles.h"
+#include "ScratchFiles.h"
 
 namespace {
 
@@ -28,7 +29,7 @@ protected:
 
     void Write(const std::string& name, const std::string& text) {
         std::filesystem::create_directories((m_Scratch.Path() / name).parent_path());
-        casetest::WriteFile(m_Scratch.Path() / name, text);
+        WriteFile(m_Scratch.Path() / name, text);
     }
 
     std::vector<TextWord> Words(const std::string& text) {
@@ -45,7 +46,7 @@ protected:
         return (m_Scratch.Path() / name).string();
     }
 
-    casetest::ScratchDirectory m_Scratch;
+    CKTScratchDirectory m_Scratch;
     std::ostringstream m_Complaints;
     CKTReport m_Report{m_Complaints};
 };
@@ -100,7 +101,7 @@ TEST_F(SourceReaderTest, EachFileHasItsOwnFormat) {
 }
 
 TEST_F(SourceReaderTest, ReplacingComparesWholeWords) {
-    const char* const rows[][3] = {
+    const std::vector<std::array<const char*, 3>> rows = {
         {"A a-B A-B A.", "A BY Z", "Z a-B A-B Z."},
         {"05 A PIC X(5) VALUE 'A'.",
          "5 BY 10 'A' BY \"b\" X BY ==N==", "05 A PIC N(10) VALUE \"b\"."},
@@ -136,7 +137,7 @@ TEST_F(SourceReaderTest, WhatCannotBeCopiedIsAFaultInItsPlace) {
         Write("src/n" + std::to_string(i), "COPY \"n" + std::to_string(i + 1) + "\".");
     }
     EXPECT_EQ(Read("COPY n0. A"), "!The copy files are nested too deep A");
-    const char* const rows[][2] = {
+    const std::vector<std::array<const char*, 2>> rows = {
         {"COPY. A", "!COPY names no copy file A"},
         {"A COPY", "A !COPY names no copy file"},
         {"COPY me IN lib. A", "!COPY from a named library is not supported A"},
@@ -154,8 +155,8 @@ TEST_F(SourceReaderTest, WhatCannotBeCopiedIsAFaultInItsPlace) {
 
 TEST_F(SourceReaderTest, CopiesThatGrowWithoutEndAreStopped) {
     for (int i = 0; i < 40; ++i) {
-        const std::string next = std::to_string(i + 1);
-        Write("src/f" + std::to_string(i), "COPY \"f" + next + "\". COPY \"f" + next + "\".");
+        const std::string copy = "COPY \"f" + std::to_string(i + 1) + "\". ";
+        Write("src/f" + std::to_string(i), copy + copy);
     }
     Write("src/f40", "A");
     EXPECT_NE(Read("COPY \"f0\".").find("!The copy files hold too much text"), std::string::npos);

@@ -1,15 +1,15 @@
 #include "schema/KTCOBOLGenerator.h"
 
+#include <array>
 #include <iostream>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
-#include "../support/CaseFiles.h"
-#include "../support/RedirectedStream.h"
+#include "RedirectedStream.h"
 #include "SchemaFiles.h"
-#include "SchemaTree.h"
-#include "schema/SchemaSet.h"
+#include "ScratchFiles.h"
 
 namespace {
 
@@ -24,51 +24,45 @@ struct Outcome {
 };
 
 Outcome Generate(CKTXMLSchemaDoc* doc, const std::string& file) {
-    Outcome run;
-    const int before = m_nErrorCount;
-    {
-        const RedirectedStream output(std::cout);
-        const RedirectedStream errors(std::cerr);
-        CKTCOBOLGenerator generator(doc);
-        run.toFile = generator.GenerateFile(file, "", false, false);
-        run.output = output.Text();
-        run.errors = errors.Text();
-    }
-    GeneratorState().currentSchemaElement = nullptr;
-    run.counted = m_nErrorCount - before;
-    return run;
+    const CKTCurrentSchema none(nullptr);
+    const CKTRedirectedConsole console;
+    CKTCOBOLGenerator generator(doc);
+    const bool toFile = generator.GenerateFile(file, "", false, false);
+    return {toFile, console.Output(), console.Errors(), console.Counted()};
 }
 
 Outcome Generate(CKTXMLElement& root, const std::string& file) {
-    MemoryFiles files;
+    CKTMemoryFiles files;
     CKTSchemaSet set(files);
     CKTXMLSchemaDoc doc(&root, nullptr, "t.xsd", set);
     return Generate(&doc, file);
 }
 
 TEST(Generator, WithoutASchemaNothingIsWritten) {
-    const casetest::ScratchDirectory scratch;
+    const CKTScratchDirectory scratch;
     const std::string file = (scratch.Path() / "a.cpy").string();
     CKTXMLElement root;
     Add(&root, "definitions");
-    MemoryFiles files;
+    CKTMemoryFiles files;
     CKTSchemaSet set(files);
     CKTXMLSchemaDoc noSchema(&root, nullptr, "t.xsd", set);
-    const struct {
+    struct Row {
         CKTXMLSchemaDoc* doc;
         const char* errors;
-    } rows[] = {{nullptr, "Internal Error : Error initializing schema document\n\n"},
-                {&noSchema, "Internal Error : Unable to locate schema element\n\n"}};
+    };
+    const std::vector<Row> rows = {
+        {nullptr, "Internal Error : Error initializing schema document\n\n"},
+        {&noSchema, "Internal Error : Unable to locate schema element\n\n"}};
     for (const auto& row : rows) {
         for (const std::string& name : {std::string(), file}) {
-            casetest::WriteFile(file, "earlier text");
+            WriteFile(file, "earlier text");
             const Outcome run = Generate(row.doc, name);
             EXPECT_EQ(run.errors, row.errors);
             EXPECT_EQ(run.output, name.empty() ? kNotice : "");
             EXPECT_EQ(run.toFile, !name.empty());
             EXPECT_EQ(run.counted, 1);
-            EXPECT_EQ(casetest::ReadTree(scratch.Path()),
-                      (casetest::FileTree{{"a.cpy", name.empty() ? "earlier text" : ""}}));
+            EXPECT_EQ(ReadTree(scratch.Path()),
+                      (FileTree{{"a.cpy", name.empty() ? "earlier text" : ""}}));
         }
     }
 }
@@ -77,7 +71,7 @@ TEST(Generator, QualifiedAttributesAreRefusedByTheValueTrueAlone) {
     for (const char* form : {"qualified", "unqualified", "True", "true ", ""}) {
         CKTXMLElement root;
         bool children = false;
-        const RedirectedStream errors(std::cerr);
+        const CKTRedirectedStream errors(std::cerr);
         EXPECT_TRUE(CKTCOBOLGenerator::ProcessSchemaElement(
             Add(&root, "schema", {{"attributeFormDefault", form}}), children));
         EXPECT_TRUE(children) << form;
@@ -95,7 +89,7 @@ TEST(Generator, QualifiedAttributesAreRefusedByTheValueTrueAlone) {
 }
 
 TEST(Generator, FreeFormItemsLeaveOutWhatTheyDoNotHave) {
-    const struct {
+    struct Row {
         const char* name;
         const char* type;
         const char* xmlName;
@@ -103,7 +97,8 @@ TEST(Generator, FreeFormItemsLeaveOutWhatTheyDoNotHave) {
         unsigned indent;
         bool isAttribute;
         const char* expected;
-    } rows[] = {
+    };
+    const std::vector<Row> rows = {
         {"CUST", "PIC X(5)", "cust", 9, 3, true,
          "   09  CUST PIC X(5) identified by \"cust\" is attribute"},
         {"CUST", "", "", 10, 0, false, "10  CUST "},
@@ -111,7 +106,7 @@ TEST(Generator, FreeFormItemsLeaveOutWhatTheyDoNotHave) {
         {"", "PIC X", "c", 1, 1, true, ""},
     };
     for (const auto& row : rows) {
-        const RedirectedStream output(std::cout);
+        const CKTRedirectedStream output(std::cout);
         CKTCOBOLGenerator::writeRecordItem(row.name, row.type, row.xmlName, row.level, row.indent,
                                            row.isAttribute);
         EXPECT_EQ(output.Text(), row.expected);
@@ -124,7 +119,7 @@ TEST(Generator, ADumpIndentsWhatIsBelowTheElement) {
     Add(&root, "not-below");
     Add(Add(Add(a, "b"), "c", {{"q", "\"&"}}), "d");
     Add(a, "e");
-    const RedirectedStream output(std::cout);
+    const CKTRedirectedStream output(std::cout);
     CKTCOBOLGenerator::dumpElement(a, "> ");
     EXPECT_EQ(output.Text(),
               "> x:a n=\"1\" x:m=\"\" \n"
@@ -135,8 +130,8 @@ TEST(Generator, ADumpIndentsWhatIsBelowTheElement) {
 }
 
 TEST(Generator, GroupsThatLeadBackToThemselvesAreLeftOut) {
-    const char* const rows[][3] = {{"x:group", "x:element", ""},
-                                   {"x:attributeGroup", "x:attribute", " is attribute"}};
+    const std::vector<std::array<const char*, 3>> rows = {
+        {"x:group", "x:element", ""}, {"x:attributeGroup", "x:attribute", " is attribute"}};
     for (const auto& [groupTag, memberTag, clause] : rows) {
         CKTXMLElement root;
         CKTXMLElement* schema = Add(&root, "x:schema", kSchemaPrefix);

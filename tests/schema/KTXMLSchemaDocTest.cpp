@@ -1,90 +1,15 @@
 #include "schema/KTXMLSchemaDoc.h"
 
-#include <sstream>
-#include <string>
-
 #include <gtest/gtest.h>
 
 #include "SchemaFiles.h"
-#include "SchemaTree.h"
-#include "schema/KTCOBOLGenerator.h"
-#include "schema/SchemaSet.h"
 
 namespace {
-
-TEST(SchemaDoc, DocumentAndGeneratorNumberTheirKindsApart) {
-    const struct {
-        const char* tag;
-        int document;
-        int generator;
-    } rows[] = {
-        {"xs:schema", 0, 0},     {"simpleType", 4, 4}, {"xs:enumeration", 5, 27},
-        {"group", 6, 5},         {"any", 17, 16},      {"appInfo", 20, 19},
-        {"appinfo", 28, 27},     {"keyRef", 22, 21},   {"keyref", 28, 27},
-        {"xs:redefine", 27, 26}, {"Element", 28, 27},  {"a:b:element", 28, 27},
-    };
-    for (const auto& [tag, document, generator] : rows) {
-        const CKTXMLElement e(tag);
-        EXPECT_EQ(static_cast<int>(CKTXMLSchemaDoc::getElementType(&e)), document) << tag;
-        EXPECT_EQ(static_cast<int>(CKTCOBOLGenerator::getElementType(&e)), generator) << tag;
-    }
-}
-
-TEST(SchemaDoc, FacetsAreNumberedByTheirLocalName) {
-    std::istringstream names(
-        "length minLength maxLength pattern enumeration whiteSpace maxInclusive maxExclusive "
-        "minInclusive minExclusive totalDigits fractionDigits Length");
-    int kind = 0;
-    for (std::string name; names >> name; ++kind) {
-        const CKTXMLElement e("xs:" + name);
-        EXPECT_EQ(static_cast<int>(CKTCOBOLGenerator::getFacetType(&e)), kind) << name;
-    }
-    EXPECT_EQ(CKTCOBOLGenerator::getFacetType(nullptr), FacetKind::None);
-}
-
-TEST(SchemaDoc, AttributesAreFoundByNameAsWrittenOrByValue) {
-    CKTXMLElement root;
-    const CKTXMLElement* e = Add(&root, "e", {{"x:a", "1"}, {"b", ""}, {"c", "two"}});
-    const struct {
-        const char* name;
-        bool found;
-        const char* value;
-    } rows[] = {{"x:a", true, "1"}, {"a", false, ""}, {"b", true, ""}, {"C", false, ""}};
-    for (const auto& row : rows) {
-        std::string value = "before";
-        EXPECT_EQ(findAttrByName(e, row.name, &value), row.found) << row.name;
-        EXPECT_EQ(findAttrByName(e, row.name, nullptr), row.found) << row.name;
-        EXPECT_EQ(value, row.value) << row.name;
-    }
-    EXPECT_TRUE(findAttrByValue(e, "two"));
-    EXPECT_FALSE(findAttrByValue(e, "tw"));
-    EXPECT_FALSE(findAttrByValue(e, ""));
-    EXPECT_FALSE(findAttrByValue(&root, "1"));
-}
-
-TEST(SchemaDoc, TheFirstDocumentOfANamespaceIsTheOneFound) {
-    MemoryFiles files;
-    CKTSchemaSet set(files);
-    CKTXMLSchemaDoc first(set);
-    CKTXMLSchemaDoc second(set);
-    CKTXMLNamespaceSchemaPair one("urn:a", &first);
-    CKTXMLNamespaceSchemaPair two("urn:b", &second);
-    CKTXMLNamespaceSchemaPair again;
-    again.setNS("urn:a");
-    again.setSchemaDoc(&second);
-    using Pair = CKTXMLNamespaceSchemaPair;
-    EXPECT_EQ(Pair::findDocumentByNamespace("urn:a", {&two, &one, &again}), &first);
-    EXPECT_EQ(Pair::findDocumentByNamespace("urn:a", {&again, &one}), &second);
-    EXPECT_EQ(Pair::findDocumentByNamespace("urn:A", {&one}), nullptr);
-    EXPECT_EQ(Pair::findDocumentByNamespace("urn", {&one}), nullptr);
-    EXPECT_EQ(Pair::findDocumentByNamespace("urn:a", {}), nullptr);
-    EXPECT_EQ(again.getNamespaceURI(), "urn:a");
-}
 
 TEST(SchemaDoc, TheFirstSchemaElementInTheTreeIsTheDocuments) {
     CKTXMLElement root;
     CKTXMLElement* outer = Add(&root, "definitions", {{"targetNamespace", "urn:outer"}});
-    MemoryFiles files;
+    CKTMemoryFiles files;
     CKTSchemaSet set(files);
     CKTXMLSchemaDoc none(&root, nullptr, "t.xml", set);
     EXPECT_EQ(none.getSchemaElement(), nullptr);

@@ -1,6 +1,8 @@
 #include "schema/SchemaSet.h"
 
+#include <map>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -60,17 +62,17 @@ class SchemaSetTest : public testing::TestWithParam<Scenario> {};
 
 TEST_P(SchemaSetTest, LoadsEachFileOnceInEachRole) {
     const Scenario& scenario = GetParam();
-    MemoryFiles files(scenario.files);
+    CKTMemoryFiles files(scenario.files);
     CKTSchemaSet set(files);
     const auto root = TreeOf(scenario.files.at("/m/main"));
-    const CurrentSchema current(root->getFirstChildElem());
+    const CKTCurrentSchema current(root->getFirstChildElem());
     const CKTXMLSchemaDoc doc(root.get(), nullptr, "/m/main", set);
-    EXPECT_EQ(files.reads, scenario.reads);
+    EXPECT_EQ(files.Reads(), scenario.reads);
     EXPECT_EQ(Declarations(doc), scenario.declarations);
     EXPECT_EQ(Pairs(doc), scenario.pairs);
 }
 
-const Scenario kScenarios[] = {
+const std::vector<Scenario> kScenarios = {
     {"IncludesBringInnerFilesFirstAndNoAttributes",
      {{"/m/main", "schema\n  include schemaLocation=a\n  element name=m"},
       {"/m/a", "schema\n  include schemaLocation=sub/b\n  element name=a\n  attribute name=lost"},

@@ -1,31 +1,16 @@
 #include "CaseFiles.h"
 
 #include <array>
-#include <cerrno>
-#include <fstream>
-#include <iterator>
 #include <sstream>
 #include <stdexcept>
 #include <string_view>
-#include <system_error>
-
-#include <stdlib.h>
-
-namespace casetest {
-namespace {
 
 namespace fs = std::filesystem;
 
+namespace {
+
 constexpr std::array<std::string_view, 11> kEntries = {
     "cmd", "in", "stdin", "stdout", "stderr", "status", "out", "gone", "locale", "tools", "cobc"};
-
-std::string ReadFile(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    if (!in) {
-        throw std::runtime_error("cannot read " + file.string());
-    }
-    return {std::istreambuf_iterator<char>(in), {}};
-}
 
 std::string ReadOptional(const fs::path& file) {
     return fs::exists(file) ? ReadFile(file) : "";
@@ -71,19 +56,6 @@ void CheckEntries(const fs::path& directory) {
 
 }  // namespace
 
-ScratchDirectory::ScratchDirectory() {
-    std::string name = (fs::canonical(fs::temp_directory_path()) / "case-XXXXXX").string();
-    if (::mkdtemp(name.data()) == nullptr) {
-        throw std::system_error(errno, std::generic_category(), name);
-    }
-    m_path = name;
-}
-
-ScratchDirectory::~ScratchDirectory() {
-    std::error_code ignored;
-    fs::remove_all(m_path, ignored);
-}
-
 Case LoadCase(const fs::path& directory) {
     CheckEntries(directory);
     Case loaded;
@@ -102,32 +74,3 @@ Case LoadCase(const fs::path& directory) {
     loaded.copybooks = ReadLines(directory / "cobc");
     return loaded;
 }
-
-FileTree ReadTree(const fs::path& directory) {
-    FileTree tree;
-    if (!fs::exists(directory)) {
-        return tree;
-    }
-    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(directory)) {
-        const std::string name = entry.path().lexically_relative(directory).string();
-        if (entry.is_symlink() && !entry.exists()) {
-            tree[name] = "(a link to nothing)";
-        } else if (entry.is_regular_file()) {
-            tree[name] = ReadFile(entry.path());
-        } else if (!entry.is_directory()) {
-            tree[name] = "(no regular file)";
-        }
-    }
-    return tree;
-}
-
-void WriteFile(const fs::path& file, const std::string& bytes) {
-    std::ofstream out(file, std::ios::binary);
-    out << bytes;
-    out.close();
-    if (!out) {
-        throw std::runtime_error("cannot write " + file.string());
-    }
-}
-
-}  // namespace casetest

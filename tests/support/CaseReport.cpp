@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <string_view>
 
-namespace casetest {
 namespace {
 
 constexpr std::size_t kShownLines = 30;
@@ -95,5 +94,3 @@ void CompareFiles(const Case& expected, const FileTree& got, Failures& failures)
         }
     }
 }
-
-}  // namespace casetest

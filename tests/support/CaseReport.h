@@ -6,17 +6,13 @@
 
 #include "CaseFiles.h"
 
-namespace casetest {
-
 using Failures = std::vector<std::string>;
 
-// Adds a failure that shows the first line in which two texts differ, if they do.
+/// Adds a failure that shows the first line in which two texts differ, if they do.
 void CompareText(const std::string& what, const std::string& expected, const std::string& got,
                  Failures& failures);
 
-// Adds a failure for each file that is missing, left over or not as the case says.
+/// Adds a failure for each file that is missing, left over or not as the case says.
 void CompareFiles(const Case& expected, const FileTree& got, Failures& failures);
-
-}  // namespace casetest
 
 #endif

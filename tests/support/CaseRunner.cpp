@@ -16,7 +16,6 @@
 #include "ChildProcess.h"
 #include "CopybookCheck.h"
 
-namespace casetest {
 namespace {
 
 namespace fs = std::filesystem;
@@ -100,7 +99,7 @@ void CheckCopybook(const std::string& name, const FileTree& files, const fs::pat
 
 Failures RunCase(const fs::path& program, const fs::path& directory, const fs::path& tests) {
     const Case test = LoadCase(directory);
-    const ScratchDirectory scratch;
+    const CKTScratchDirectory scratch;
     const fs::path work = scratch.Path() / "work";
     fs::create_directory(work);
     if (fs::exists(directory / "in")) {
@@ -140,7 +139,6 @@ Failures RunCase(const fs::path& program, const fs::path& directory, const fs::p
 }
 
 }  // namespace
-}  // namespace casetest
 
 int main(int argc, char* argv[]) {
     const std::span<char*> arguments(argv, static_cast<std::size_t>(argc));
@@ -149,8 +147,7 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     try {
-        const casetest::Failures failures =
-            casetest::RunCase(arguments[1], arguments[2], arguments[3]);
+        const Failures failures = RunCase(arguments[1], arguments[2], arguments[3]);
         for (const std::string& failure : failures) {
             std::cout << failure << '\n';
         }

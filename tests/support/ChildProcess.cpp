@@ -13,78 +13,36 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace casetest {
+#include "Descriptor.h"
+
 namespace {
 
 using Clock = std::chrono::steady_clock;
 
-void Check(int error, const std::string& what) {
-    if (error != 0) {
-        throw std::system_error(error, std::generic_category(), what);
-    }
-}
-
-class Descriptor {
+class CKTSpawnActions {
 public:
-    explicit Descriptor(int number) : m_number(number) {}
-    ~Descriptor() { Close(); }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
+    CKTSpawnActions() { CheckError(::posix_spawn_file_actions_init(&m_Actions), "spawn actions"); }
+    ~CKTSpawnActions() { ::posix_spawn_file_actions_destroy(&m_Actions); }
+    CKTSpawnActions(const CKTSpawnActions&) = delete;
+    CKTSpawnActions& operator=(const CKTSpawnActions&) = delete;
 
-    [[nodiscard]] int Number() const { return m_number; }
-    [[nodiscard]] bool IsOpen() const { return m_number >= 0; }
-
-    void Close() {
-        if (IsOpen()) {
-            ::close(m_number);
-        }
-        m_number = -1;
-    }
+    posix_spawn_file_actions_t* Get() { return &m_Actions; }
 
 private:
-    int m_number;
+    posix_spawn_file_actions_t m_Actions{};
 };
 
-struct Pipe {
-    Pipe() : Pipe(Ends()) {}
-
-    Descriptor reader;
-    Descriptor writer;
-
-private:
-    explicit Pipe(const std::array<int, 2>& ends) : reader(ends[0]), writer(ends[1]) {}
-
-    static std::array<int, 2> Ends() {
-        std::array<int, 2> ends{};
-        Check(::pipe2(ends.data(), O_CLOEXEC) == 0 ? 0 : errno, "pipe2");
-        return ends;
-    }
-};
-
-class SpawnActions {
+class CKTSpawnAttributes {
 public:
-    SpawnActions() { Check(::posix_spawn_file_actions_init(&m_actions), "spawn actions"); }
-    ~SpawnActions() { ::posix_spawn_file_actions_destroy(&m_actions); }
-    SpawnActions(const SpawnActions&) = delete;
-    SpawnActions& operator=(const SpawnActions&) = delete;
+    CKTSpawnAttributes() { CheckError(::posix_spawnattr_init(&m_Attributes), "spawn attributes"); }
+    ~CKTSpawnAttributes() { ::posix_spawnattr_destroy(&m_Attributes); }
+    CKTSpawnAttributes(const CKTSpawnAttributes&) = delete;
+    CKTSpawnAttributes& operator=(const CKTSpawnAttributes&) = delete;
 
-    posix_spawn_file_actions_t* Get() { return &m_actions; }
-
-private:
-    posix_spawn_file_actions_t m_actions{};
-};
-
-class SpawnAttributes {
-public:
-    SpawnAttributes() { Check(::posix_spawnattr_init(&m_attributes), "spawn attributes"); }
-    ~SpawnAttributes() { ::posix_spawnattr_destroy(&m_attributes); }
-    SpawnAttributes(const SpawnAttributes&) = delete;
-    SpawnAttributes& operator=(const SpawnAttributes&) = delete;
-
-    posix_spawnattr_t* Get() { return &m_attributes; }
+    posix_spawnattr_t* Get() { return &m_Attributes; }
 
 private:
-    posix_spawnattr_t m_attributes{};
+    posix_spawnattr_t m_Attributes{};
 };
 
 std::vector<char*> Pointers(std::vector<std::string>& texts) {
@@ -98,34 +56,35 @@ std::vector<char*> Pointers(std::vector<std::string>& texts) {
 }
 
 pid_t Spawn(ChildCommand& command, const Pipe& output, const Pipe& errors) {
-    SpawnActions actions;
+    CKTSpawnActions actions;
     posix_spawn_file_actions_t* list = actions.Get();
-    Check(::posix_spawn_file_actions_addopen(list, 0, command.input.c_str(), O_RDONLY, 0), "stdin");
-    Check(::posix_spawn_file_actions_adddup2(list, output.writer.Number(), 1), "stdout");
-    Check(::posix_spawn_file_actions_adddup2(list, errors.writer.Number(), 2), "stderr");
-    Check(::posix_spawn_file_actions_addchdir_np(list, command.directory.c_str()), "chdir");
+    CheckError(::posix_spawn_file_actions_addopen(list, 0, command.input.c_str(), O_RDONLY, 0),
+               "stdin");
+    CheckError(::posix_spawn_file_actions_adddup2(list, output.writer.Number(), 1), "stdout");
+    CheckError(::posix_spawn_file_actions_adddup2(list, errors.writer.Number(), 2), "stderr");
+    CheckError(::posix_spawn_file_actions_addchdir_np(list, command.directory.c_str()), "chdir");
 
     // A caller may ignore SIGPIPE; the child meets it as a program at a console does.
-    SpawnAttributes attributes;
+    CKTSpawnAttributes attributes;
     sigset_t defaults;
     sigemptyset(&defaults);
     sigaddset(&defaults, SIGPIPE);
-    Check(::posix_spawnattr_setsigdefault(attributes.Get(), &defaults), "signals");
-    Check(::posix_spawnattr_setpgroup(attributes.Get(), 0), "process group");
-    Check(
+    CheckError(::posix_spawnattr_setsigdefault(attributes.Get(), &defaults), "signals");
+    CheckError(::posix_spawnattr_setpgroup(attributes.Get(), 0), "process group");
+    CheckError(
         ::posix_spawnattr_setflags(attributes.Get(), POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGDEF),
         "spawn flags");
 
     std::vector<char*> arguments = Pointers(command.arguments);
     std::vector<char*> environment = Pointers(command.environment);
     pid_t child = 0;
-    Check(::posix_spawnp(&child, arguments.front(), list, attributes.Get(), arguments.data(),
-                         environment.data()),
-          "cannot run " + command.arguments.front());
+    CheckError(::posix_spawnp(&child, arguments.front(), list, attributes.Get(), arguments.data(),
+                              environment.data()),
+               "cannot run " + command.arguments.front());
     return child;
 }
 
-void Drain(Descriptor& reader, std::string& text) {
+void Drain(CKTDescriptor& reader, std::string& text) {
     std::array<char, 65536> buffer{};
     const ssize_t count = ::read(reader.Number(), buffer.data(), buffer.size());
     if (count > 0) {
@@ -192,5 +151,3 @@ ChildResult RunChild(ChildCommand command) {
     result.status = WIFSIGNALED(*status) ? 128 + WTERMSIG(*status) : WEXITSTATUS(*status);
     return result;
 }
-
-}  // namespace casetest

@@ -6,7 +6,6 @@
 #include <optional>
 #include <stdexcept>
 
-namespace casetest {
 namespace {
 
 constexpr std::size_t kIndicator = 6;
@@ -38,10 +37,10 @@ std::optional<char> OpenQuote(std::string_view text) {
 }
 
 // Collects the text of fixed-format lines, continued ones joined.
-class LineJoiner {
+class CKTLineJoiner {
 public:
     void Add(std::string_view line) {
-        ++m_number;
+        ++m_nNumber;
         const char indicator = line.size() > kIndicator ? line[kIndicator] : ' ';
         std::string_view area = line.size() > kTextStart ? line.substr(kTextStart) : "";
         area = area.substr(0, kTextEnd - kTextStart);
@@ -53,57 +52,57 @@ public:
             Continue(area);
         } else {
             Close();
-            m_done += '\n';
-            m_line = area;
+            m_sDone += '\n';
+            m_sLine = area;
         }
-        m_width = area.size();
+        m_nWidth = area.size();
     }
 
     std::string Text() {
         Close();
-        return m_done;
+        return m_sDone;
     }
 
 private:
     void Close() {
-        if (OpenQuote(m_line)) {
-            Fail(m_number, "the literal before it is left open");
+        if (OpenQuote(m_sLine)) {
+            Fail(m_nNumber, "the literal before it is left open");
         }
-        m_done += m_line;
-        m_line.clear();
+        m_sDone += m_sLine;
+        m_sLine.clear();
     }
 
     // A literal runs to column 72 of its line and goes on behind the next line's first mark, which
     // may be followed by the second half of a doubled mark that begins in column 72; a word goes on
     // with the next line's first character.
     void Continue(std::string_view area) {
-        if (m_line.empty()) {
-            Fail(m_number, "a continuation of nothing");
+        if (m_sLine.empty()) {
+            Fail(m_nNumber, "a continuation of nothing");
         }
         area.remove_prefix(area.find_first_not_of(kBlanks));
-        const bool halved = m_width == kTextEnd - kTextStart && IsQuote(m_line.back()) &&
-                            area.starts_with(std::string(2, m_line.back()));
-        const std::optional<char> quote = halved ? m_line.back() : OpenQuote(m_line);
+        const bool halved = m_nWidth == kTextEnd - kTextStart && IsQuote(m_sLine.back()) &&
+                            area.starts_with(std::string(2, m_sLine.back()));
+        const std::optional<char> quote = halved ? m_sLine.back() : OpenQuote(m_sLine);
         if (quote) {
-            m_line.append(kTextEnd - kTextStart - m_width, ' ');
+            m_sLine.append(kTextEnd - kTextStart - m_nWidth, ' ');
             if (area.front() != *quote) {
-                Fail(m_number, "a continued literal without its quotation mark");
+                Fail(m_nNumber, "a continued literal without its quotation mark");
             }
             area.remove_prefix(1);
         } else {
-            m_line.erase(m_line.find_last_not_of(kBlanks) + 1);
+            m_sLine.erase(m_sLine.find_last_not_of(kBlanks) + 1);
         }
-        m_line += area;
+        m_sLine += area;
     }
 
-    std::string m_done;
-    std::string m_line;
-    std::size_t m_width = 0;  // of the text area in the latest line
-    std::size_t m_number = 0;
+    std::string m_sDone;
+    std::string m_sLine;
+    std::size_t m_nWidth = 0;  // of the text area in the latest line
+    std::size_t m_nNumber = 0;
 };
 
 std::string Join(std::string_view copybook) {
-    LineJoiner joiner;
+    CKTLineJoiner joiner;
     while (!copybook.empty()) {
         const std::size_t end = std::min(copybook.find('\n'), copybook.size());
         joiner.Add(copybook.substr(0, end));
@@ -234,5 +233,3 @@ std::string ProgramAround(std::string_view copybook) {
     }
     return program + "procedure division.\n    stop run.\n";
 }
-
-}  // namespace casetest

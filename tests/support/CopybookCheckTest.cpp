@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-namespace casetest {
 namespace {
 
 TEST(CopybookCheck, JoinsContinuedLiteralsAndWords) {
@@ -34,10 +33,11 @@ TEST(CopybookCheck, IgnoresWhatStandsBehindColumn72) {
 }
 
 TEST(CopybookCheck, RefusesWhatFixedFormatDoesNotAllow) {
-    EXPECT_THROW(ReadEntries("       88 A value is \"one\n          two\".\n"), std::runtime_error);
-    EXPECT_THROW(ReadEntries("      -   two\".\n"), std::runtime_error);
-    EXPECT_THROW(ReadEntries("       88 A value is \"one\n      -   two\".\n"), std::runtime_error);
-    EXPECT_THROW(ReadEntries("       01 A pic x\n"), std::runtime_error);
+    for (const char* copybook :
+         {"       88 A value is \"one\n          two\".\n", "      -   two\".\n",
+          "       88 A value is \"one\n      -   two\".\n", "       01 A pic x\n"}) {
+        EXPECT_THROW(ReadEntries(copybook), std::runtime_error) << copybook;
+    }
 }
 
 TEST(CopybookCheck, StripsEveryXmlClauseAndNothingElse) {
@@ -72,4 +72,3 @@ TEST(CopybookCheck, PutsAFragmentUnderARecordOfItsOwn) {
 }
 
 }  // namespace
-}  // namespace casetest

@@ -1,35 +1,33 @@
 #include "support/Files.h"
 
-#include <filesystem>
+#include <array>
+#include <cstdio>
 #include <iostream>
+#include <memory>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
-#include "CaseFiles.h"
 #include "RedirectedStream.h"
-#include "support/Console.h"
+#include "ScratchFiles.h"
 
 namespace {
 
 class FilesTest : public testing::Test {
-protected:
-    void SetUp() override { std::filesystem::current_path(m_scratch.Path()); }
-    void TearDown() override { std::filesystem::current_path(m_start); }
-
 private:
-    const std::filesystem::path m_start = std::filesystem::current_path();
-    const casetest::ScratchDirectory m_scratch;
+    const CKTWorkingDirectory m_Directory;
 };
 
 TEST_F(FilesTest, ACopyEndsEveryLineAndKeepsItsBytes) {
     const std::string longLine(3000, 'x');
     const std::string limit(1024, 'y');
     const std::string zeros("a\0b\0", 4);
-    const struct {
+    struct Row {
         std::string source;
         std::string copy;
-    } rows[] = {
+    };
+    const std::vector<Row> rows = {
         {"a\nb\n", "a\nb\n\n"},
         {"a\nb", "a\nb\n"},
         {"", "\n"},
@@ -39,39 +37,37 @@ TEST_F(FilesTest, ACopyEndsEveryLineAndKeepsItsBytes) {
         {limit + "\n" + limit.substr(1) + "\nb", limit + "\n" + limit.substr(1) + "\nb\n"},
     };
     for (const auto& row : rows) {
-        casetest::WriteFile("from", row.source);
-        casetest::WriteFile("to", std::string(9000, 'z'));
-        const RedirectedStream output(std::cout);
+        WriteFile("from", row.source);
+        WriteFile("to", std::string(9000, 'z'));
+        const CKTRedirectedStream output(std::cout);
         EXPECT_TRUE(CopyFileToFile("from", "to"));
-        EXPECT_EQ(casetest::ReadTree("."),
-                  (casetest::FileTree{{"from", row.source}, {"to", row.copy}}));
+        EXPECT_EQ(ReadTree("."), (FileTree{{"from", row.source}, {"to", row.copy}}));
         EXPECT_EQ(output.Text(), "");
     }
 }
 
 TEST_F(FilesTest, ACopyThatIsNotCompleteIsAnError) {
-    casetest::WriteFile("from", "a\n");
-    casetest::WriteFile("large", std::string(1 << 20, 'x') + "\n");
-    const char* const rows[][2] = {
+    WriteFile("from", "a\n");
+    WriteFile("large", std::string(1 << 20, 'x') + "\n");
+    const std::vector<std::array<const char*, 2>> rows = {
         {"missing", "to"},     {"from", "missing/to"}, {".", "to"}, {"", "to"}, {"from", ""},
         {"from", "/dev/full"}, {"large", "/dev/full"},
     };
     for (const auto& [from, to] : rows) {
         const bool full = std::string(to) == "/dev/full";
-        const int before = m_nErrorCount;
-        const RedirectedStream output(std::cout);
-        const RedirectedStream errors(std::cerr);
+        const CKTRedirectedConsole console;
         EXPECT_FALSE(CopyFileToFile(from, to)) << from << " to " << to;
-        EXPECT_EQ(output.Text(), full ? std::string()
-                                      : std::string("Error : Unable to copy file contents of ") +
-                                            from + " to " + to + "\n");
-        EXPECT_EQ(errors.Text(), full ? "Error : Unable to write output file \"/dev/full\"\n" : "");
-        EXPECT_EQ(m_nErrorCount - before, 1);
+        EXPECT_EQ(console.Output(), full ? std::string()
+                                         : std::string("Error : Unable to copy file contents of ") +
+                                               from + " to " + to + "\n");
+        EXPECT_EQ(console.Errors(),
+                  full ? "Error : Unable to write output file \"/dev/full\"\n" : "");
+        EXPECT_EQ(console.Counted(), 1);
     }
 }
 
 TEST_F(FilesTest, ATemporaryNameIsFreeForEveryExtensionAndReservedByTheLast) {
-    casetest::FileTree reserved;
+    FileTree reserved;
     std::string last;
     for (const char* extensions : {".xml .cbl", "xml cbl", "  .xml   .cbl ", ".cbl"}) {
         const std::string stem = GetTemporaryFilename(extensions);
@@ -80,39 +76,34 @@ TEST_F(FilesTest, ATemporaryNameIsFreeForEveryExtensionAndReservedByTheLast) {
         EXPECT_EQ(stem.find_first_of("/ "), std::string::npos) << stem;
         EXPECT_FALSE(FileExists(stem + ".xml", false)) << stem;
         reserved[stem + ".cbl"] = "";
-        EXPECT_EQ(casetest::ReadTree("."), reserved);
+        EXPECT_EQ(ReadTree("."), reserved);
         last = stem;
     }
 }
 
 TEST_F(FilesTest, AnUnusableNameCountsAsKept) {
     for (const bool prompt : {false, true}) {
-        const int before = m_nErrorCount;
-        const RedirectedStream output(std::cout);
-        const RedirectedStream errors(std::cerr);
+        const CKTRedirectedConsole console;
         EXPECT_TRUE(FileExists("", prompt));
-        EXPECT_EQ(output.Text(), "Error : Invalid Filename.  Unable to create \"\"\n");
-        EXPECT_EQ(errors.Text(), "");
-        EXPECT_EQ(m_nErrorCount - before, 1);
+        EXPECT_EQ(console.Output(), "Error : Invalid Filename.  Unable to create \"\"\n");
+        EXPECT_EQ(console.Errors(), "");
+        EXPECT_EQ(console.Counted(), 1);
     }
-    casetest::WriteFile("here", "");
+    WriteFile("here", "");
     EXPECT_TRUE(FileExists("here", false));
     EXPECT_FALSE(FileExists("absent", true));
 }
 
-TEST(Console, TheExitStatusIsNeverZeroForARunWithMessages) {
-    const int rows[][3] = {{0, 0, 0},      {0, 1, 1},      {1, 0, 1},
-                           {200, 54, 254}, {200, 55, 255}, {128, 128, 255},
-                           {200, 57, 1},   {512, 0, 255},  {0, 769, 1}};
-    const int errors = m_nErrorCount;
-    const int warnings = m_nWarningCount;
-    for (const auto& [errorCount, warningCount, expected] : rows) {
-        m_nErrorCount = errorCount;
-        m_nWarningCount = warningCount;
-        EXPECT_EQ(ExitStatus(), expected) << errorCount << " and " << warningCount;
-    }
-    m_nErrorCount = errors;
-    m_nWarningCount = warnings;
+TEST_F(FilesTest, FileNamesWithBlanksAreQuotedOnce) {
+    EXPECT_EQ(ProcessSpaceyFilename("my prog.cbl", nullptr), "\"my prog.cbl\"");
+    EXPECT_EQ(ProcessSpaceyFilename("\"a.cbl\"", nullptr), "a.cbl");
+    EXPECT_EQ(ProcessSpaceyFilename("\"\xff \xe9\"", nullptr), "\"\xff \xe9\"");
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> trace(std::fopen("trace", "w"),
+                                                                &std::fclose);
+    ASSERT_NE(trace, nullptr);
+    EXPECT_EQ(ProcessSpaceyFilename("\"a \"\"b\"", trace.get()), "\"a b\"");
+    std::fflush(trace.get());
+    EXPECT_EQ(ReadFile("trace"), "Removed Quotes : a b\nFinal Filename : \"a b\"\n");
 }
 
 }  // namespace

@@ -12,8 +12,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "CaseFiles.h"
 #include "LoopbackServer.h"
+#include "ScratchFiles.h"
 
 int main(int argc, char* argv[]) {
     const std::span<char*> arguments(argv, static_cast<std::size_t>(argc) + 1);
@@ -22,7 +22,7 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     try {
-        casetest::LoopbackServer server(casetest::ReadTree("www"));
+        CKTLoopbackServer server(ReadTree("www"));
         ::setenv("PORT", std::to_string(server.Port()).c_str(), 1);
         const pid_t child = ::fork();
         if (child == 0) {

@@ -1,30 +1,19 @@
 #include "LoopbackServer.h"
 
 #include <arpa/inet.h>
-#include <fcntl.h>
 #include <netinet/in.h>
 #include <poll.h>
 #include <sys/socket.h>
-#include <unistd.h>
 
 #include <array>
-#include <cerrno>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
-namespace casetest {
 namespace {
 
 constexpr int kRequestMilliseconds = 10'000;
 constexpr int kPauseMilliseconds = 150;
 constexpr std::size_t kMaxRequest = 65'536;
-
-void Check(int result, const char* what) {
-    if (result < 0) {
-        throw std::system_error(errno, std::generic_category(), what);
-    }
-}
 
 void SendAll(int client, std::string_view bytes) {
     while (!bytes.empty()) {
@@ -44,55 +33,50 @@ bool TakePrefix(std::string& path, std::string_view prefix) {
 
 }  // namespace
 
-LoopbackServer::LoopbackServer(std::map<std::string, std::string> files)
-    : m_files(std::move(files)) {
+CKTLoopbackServer::CKTLoopbackServer(std::map<std::string, std::string> files)
+    : m_Files(std::move(files)),
+      m_Listener(CheckCall(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0), "socket")) {
     sockaddr_in address = {};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     socklen_t size = sizeof address;
     auto* generic = reinterpret_cast<sockaddr*>(&address);
-    m_listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    Check(m_listener, "socket");
-    Check(::bind(m_listener, generic, size), "bind");
-    Check(::listen(m_listener, 16), "listen");
-    Check(::getsockname(m_listener, generic, &size), "getsockname");
-    Check(::pipe2(m_stop, O_CLOEXEC), "pipe");
-    m_port = ntohs(address.sin_port);
-    m_thread = std::thread(&LoopbackServer::Serve, this);
+    CheckCall(::bind(m_Listener.Number(), generic, size), "bind");
+    CheckCall(::listen(m_Listener.Number(), 16), "listen");
+    CheckCall(::getsockname(m_Listener.Number(), generic, &size), "getsockname");
+    m_nPort = ntohs(address.sin_port);
+    m_Thread = std::thread(&CKTLoopbackServer::Serve, this);
 }
 
-LoopbackServer::~LoopbackServer() {
-    ::close(m_stop[1]);
-    m_thread.join();
-    ::close(m_stop[0]);
-    ::close(m_listener);
+CKTLoopbackServer::~CKTLoopbackServer() {
+    m_Stop.writer.Close();
+    m_Thread.join();
 }
 
-std::string LoopbackServer::Url(const std::string& path) const {
-    return "http://127.0.0.1:" + std::to_string(m_port) + "/" + path;
+std::string CKTLoopbackServer::Url(const std::string& path) const {
+    return "http://127.0.0.1:" + std::to_string(m_nPort) + "/" + path;
 }
 
-std::vector<std::string> LoopbackServer::Requests() {
-    const std::lock_guard lock(m_mutex);
-    return m_requests;
+std::vector<std::string> CKTLoopbackServer::Requests() {
+    const std::lock_guard lock(m_Mutex);
+    return m_Requests;
 }
 
-bool LoopbackServer::WaitFor(int file, int milliseconds) const {
-    std::array<pollfd, 2> files = {{{file, POLLIN, 0}, {m_stop[0], POLLIN, 0}}};
+bool CKTLoopbackServer::WaitFor(int file, int milliseconds) const {
+    std::array<pollfd, 2> files = {{{file, POLLIN, 0}, {m_Stop.reader.Number(), POLLIN, 0}}};
     return ::poll(files.data(), files.size(), milliseconds) > 0 && files[1].revents == 0;
 }
 
-void LoopbackServer::Serve() {
-    while (WaitFor(m_listener, -1)) {
-        const int client = ::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC);
-        if (client >= 0) {
-            Answer(client);
-            ::close(client);
+void CKTLoopbackServer::Serve() {
+    while (WaitFor(m_Listener.Number(), -1)) {
+        const CKTDescriptor client(::accept4(m_Listener.Number(), nullptr, nullptr, SOCK_CLOEXEC));
+        if (client.IsOpen()) {
+            Answer(client.Number());
         }
     }
 }
 
-void LoopbackServer::Answer(int client) {
+void CKTLoopbackServer::Answer(int client) {
     std::string request;
     std::array<char, 4096> part{};
     while (request.find("\r\n\r\n") == std::string::npos) {
@@ -106,13 +90,13 @@ void LoopbackServer::Answer(int client) {
     const std::size_t begin = request.find('/') + 1;
     const std::string path = request.substr(begin, request.find(' ', begin) - begin);
     {
-        const std::lock_guard lock(m_mutex);
-        m_requests.push_back(path);
+        const std::lock_guard lock(m_Mutex);
+        m_Requests.push_back(path);
     }
     Send(client, path);
 }
 
-void LoopbackServer::Send(int client, const std::string& path) {
+void CKTLoopbackServer::Send(int client, const std::string& path) {
     std::string name = path;
     if (TakePrefix(name, "silent/")) {
         static_cast<void>(WaitFor(client, -1));
@@ -129,8 +113,8 @@ void LoopbackServer::Send(int client, const std::string& path) {
     }
     const bool isCut = TakePrefix(name, "cut/");
     const bool isSlow = TakePrefix(name, "slow/");
-    const auto found = m_files.find(name);
-    if (found == m_files.end()) {
+    const auto found = m_Files.find(name);
+    if (found == m_Files.end()) {
         SendAll(client, "HTTP/1.1 404 Not Found\r\nConnection: close\r\n\r\n<r>not found</r>\n");
         return;
     }
@@ -146,5 +130,3 @@ void LoopbackServer::Send(int client, const std::string& path) {
         static_cast<void>(WaitFor(client, kPauseMilliseconds));
     }
 }
-
-}  // namespace casetest

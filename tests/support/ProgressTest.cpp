@@ -11,8 +11,6 @@
 
 #include <gtest/gtest.h>
 
-#include "support/Console.h"
-
 namespace {
 
 using namespace std::chrono_literals;
@@ -144,23 +142,6 @@ TEST(Progress, TheLineIsNoWiderThanTheTerminal) {
     g_Now += 3s;
     line.AddBytes(123456);
     EXPECT_EQ(terminal.Shown(), "123456 byte");
-}
-
-// The words that announce some work are on the terminal before the work begins.
-TEST(Console, AMessageOnStandardOutputIsNotHeldBack) {
-    struct CKTHeldText : std::stringbuf {
-        int sync() override {
-            shown = str();
-            return 0;
-        }
-        std::string shown;
-    };
-    DisplayHeader();
-    CKTHeldText device;
-    std::streambuf* const saved = std::cout.rdbuf(&device);
-    std::cout << "Checking a.xsd\n";
-    std::cout.rdbuf(saved);
-    EXPECT_EQ(device.shown, "Checking a.xsd\n");
 }
 
 }  // namespace

@@ -1,15 +1,14 @@
 #include "support/Text.h"
 
+#include <array>
 #include <clocale>
-#include <cstdio>
 #include <iostream>
-#include <sstream>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "RedirectedStream.h"
-#include "support/Files.h"
 
 namespace {
 
@@ -19,7 +18,7 @@ protected:
 };
 
 TEST_F(TextTest, LastOccurrenceIsFoundPerCharacter) {
-    const char* const rows[][3] = {
+    const std::vector<std::array<const char*, 3>> rows = {
         {"archive.tar.gz", ".", ".gz"},
         {"README", ".", ""},
         {"", ".", ""},
@@ -35,11 +34,19 @@ TEST_F(TextTest, LastOccurrenceIsFoundPerCharacter) {
 }
 
 TEST_F(TextTest, ComparisonsIgnoreCaseAndStopAtTheEnd) {
-    EXPECT_EQ(my_strnicmp("-cout", "-C", 2), 0);
-    EXPECT_EQ(my_strnicmp("-cx", "-C", 4), 'x');
-    EXPECT_EQ(my_strnicmp("abc", "xyz", 0), 0);
-    EXPECT_EQ(my_strnicmp("abC", "aBd", 3), -1);
-    EXPECT_EQ(my_strnicmp("ABC", "abc", 99), 0);
+    struct Row {
+        const char* left;
+        const char* right;
+        int most;
+        int difference;
+    };
+    const std::vector<Row> rows = {
+        {"-cout", "-C", 2, 0}, {"-cx", "-C", 4, 'x'}, {"abc", "xyz", 0, 0},
+        {"abC", "aBd", 3, -1}, {"ABC", "abc", 99, 0},
+    };
+    for (const auto& [left, right, most, difference] : rows) {
+        EXPECT_EQ(my_strnicmp(left, right, most), difference) << left << " and " << right;
+    }
     EXPECT_EQ(my_stricmp("-LOG", "-log"), 0);
     EXPECT_EQ(my_stricmp("-LOG", "-logF"), -'f');
 }
@@ -53,7 +60,7 @@ TEST_F(TextTest, ConversionsKeepEveryCharacterOfTheLocaleAndReportOthers) {
     EXPECT_EQ(my_mbstowcs(nullptr), L"");
     EXPECT_EQ(my_wcstombs(nullptr), "");
 
-    const RedirectedStream errors(std::cerr);
+    const CKTRedirectedStream errors(std::cerr);
     const int before = m_nErrorCount;
     EXPECT_EQ(my_mbstowcs("ok\xff"), L"");
     std::setlocale(LC_ALL, "C");
@@ -62,36 +69,6 @@ TEST_F(TextTest, ConversionsKeepEveryCharacterOfTheLocaleAndReportOthers) {
               "Error : Unable to convert multibyte character to Unicode\n"
               "Error : Unable to convert Unicode character to multibyte\n");
     EXPECT_EQ(m_nErrorCount - before, 2);
-}
-
-TEST_F(TextTest, FileNamesWithBlanksAreQuotedOnce) {
-    EXPECT_EQ(ProcessSpaceyFilename("my prog.cbl", nullptr), "\"my prog.cbl\"");
-    EXPECT_EQ(ProcessSpaceyFilename("\"a.cbl\"", nullptr), "a.cbl");
-    EXPECT_EQ(ProcessSpaceyFilename("\"\xff \xe9\"", nullptr), "\"\xff \xe9\"");
-    std::FILE* trace = std::tmpfile();
-    ASSERT_NE(trace, nullptr);
-    EXPECT_EQ(ProcessSpaceyFilename("\"a \"\"b\"", trace), "\"a b\"");
-    std::rewind(trace);
-    char text[80] = {};
-    EXPECT_EQ(std::fread(text, 1, sizeof text, trace), 44U);
-    EXPECT_STREQ(text, "Removed Quotes : a b\nFinal Filename : \"a b\"\n");
-    std::fclose(trace);
-}
-
-TEST_F(TextTest, MessagesAreCountedByTheirBeginningOnTheConsoleAlone) {
-    const int errors = m_nErrorCount;
-    const int warnings = m_nWarningCount;
-    const RedirectedStream console(std::cerr);
-    for (const char* text : {"Error : ", "error :x", "Internal Error : ", "WARNING : ", "Error: ",
-                             "\nError : ", "Fatal Error : ", "Internal", "Warning", ""}) {
-        std::cerr << text;
-    }
-    std::ostringstream other;
-    other << "Error : ";
-    std::ostream detached(nullptr);
-    detached << "Error : ";
-    EXPECT_EQ(m_nErrorCount - errors, 3);
-    EXPECT_EQ(m_nWarningCount - warnings, 1);
 }
 
 }  // namespace

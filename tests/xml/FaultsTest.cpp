@@ -4,6 +4,7 @@
 #include <new>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <xercesc/sax/SAXException.hpp>
@@ -15,10 +16,11 @@ namespace {
 
 TEST(Faults, EachKindSaysWhatItIs) {
     const CKTDOMParser library;
-    const struct {
+    struct Row {
         std::function<void()> fault;
         std::string description;
-    } rows[] = {
+    };
+    const std::vector<Row> rows = {
         {[] { throw std::runtime_error("a reason"); }, "a reason"},
         {[] { throw xercesc::OutOfMemoryException(); }, "Out of memory"},
         {[] { throw xercesc::SAXException(u"Stra\u00dfe"); }, "Stra?e"},

@@ -1,17 +1,16 @@
 #include "xml/KTDOMParser.h"
 
-#include <unistd.h>
-
+#include <array>
 #include <clocale>
-#include <cstdio>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
-#include "../support/RedirectedStream.h"
+#include "RedirectedStream.h"
+#include "ScratchFiles.h"
 #include "xml/KTDOMFormatTarget.h"
 
 namespace {
@@ -19,30 +18,29 @@ namespace {
 class ParserTest : public testing::Test {
 protected:
     void SetUp() override { std::setlocale(LC_ALL, "C.UTF-8"); }
-    void TearDown() override { std::remove(m_file.c_str()); }
     bool Parse(const std::string& text) {
-        std::ofstream(m_file) << text;
-        return m_parser.ParseFile(m_file, CKTDOMParser::XML_DOCUMENT, false);
+        WriteFile(m_sFile, text);
+        return m_Parser.ParseFile(m_sFile, CKTDOMParser::XML_DOCUMENT, false);
     }
-    const std::string m_file =
-        testing::TempDir() + "parser-test-" + std::to_string(::getpid()) + ".xml";
-    CKTDOMParser m_parser;
+    const CKTScratchDirectory m_Scratch;
+    const std::string m_sFile = (m_Scratch.Path() / "a.xml").string();
+    CKTDOMParser m_Parser;
 };
 
 TEST_F(ParserTest, AFailedParseIsCountedAndTheTreeHoldsTheLastText) {
-    m_parser.setVerboseError(false);
-    const RedirectedStream errors(std::cerr);
+    m_Parser.setVerboseError(false);
+    const CKTRedirectedStream errors(std::cerr);
     EXPECT_FALSE(Parse("<r>\n</s>"));
-    m_parser.DisplayErrorSummary();
-    EXPECT_EQ(m_parser.getXMLDocument(), nullptr);
+    m_Parser.DisplayErrorSummary();
+    EXPECT_EQ(m_Parser.getXMLDocument(), nullptr);
     EXPECT_EQ(errors.Text(),
-              "Fatal Error : " + m_file + "(Line 2, Col 3)\n1 error(s), 0 warning(s)\n");
-    m_parser.ResetErrors();
-    EXPECT_EQ(m_parser.getErrorCount(), 0);
+              "Fatal Error : " + m_sFile + "(Line 2, Col 3)\n1 error(s), 0 warning(s)\n");
+    m_Parser.ResetErrors();
+    EXPECT_EQ(m_Parser.getErrorCount(), 0);
 
     ASSERT_TRUE(
         Parse("<!-- c --><?pi x?><p:r xmlns:p='u'>text<b>in</b>more<![CDATA[lost]]></p:r>"));
-    const auto root = m_parser.getXMLDocument();
+    const auto root = m_Parser.getXMLDocument();
     EXPECT_EQ(root->getName() + root->getValue(), "");
     const CKTXMLElement* r = root->getFirstChildElem();
     EXPECT_EQ(r->getNextSibling(), nullptr);
@@ -64,7 +62,7 @@ std::string Shape(const CKTXMLElement* e) {
 }
 
 TEST_F(ParserTest, TheTreeHasTheShapeOfTheDocument) {
-    const char* const rows[][2] = {
+    const std::vector<std::array<const char*, 2>> rows = {
         {"<r b='2' a='1' B='3' a.b='5' a-b='4'/>", "r(B=3 a=1 a-b=4 a.b=5 b=2)[]"},
         {"<p:r p:x='1' xmlns='d' x='2' xmlns:p='u' xml:lang='de'/>",
          "p:r(p:x=1 x=2 xml:lang=de xmlns=d xmlns:p=u)[]"},
@@ -87,7 +85,7 @@ TEST_F(ParserTest, TheTreeHasTheShapeOfTheDocument) {
     };
     for (const auto& [text, shape] : rows) {
         ASSERT_TRUE(Parse(text)) << text;
-        EXPECT_EQ(Shape(m_parser.getXMLDocument().get()), "()[" + std::string(shape) + "]") << text;
+        EXPECT_EQ(Shape(m_Parser.getXMLDocument().get()), "()[" + std::string(shape) + "]") << text;
     }
 }
 
@@ -104,12 +102,12 @@ TEST_F(ParserTest, NamesOfASchemaHaveNoBlanks) {
         return Shape(root);
     };
     ASSERT_TRUE(Parse(text));
-    EXPECT_EQ(leaf(m_parser.getXMLDocument().get()),
+    EXPECT_EQ(leaf(m_Parser.getXMLDocument().get()),
               "a(base= b default= d  memberTypes= a  b  name= n  namespace= u  ref=\tr "
               "schemaLocation=  substitutionGroup=s  type=t\n value= v )[]");
-    const RedirectedStream console(std::cout);
-    ASSERT_TRUE(m_parser.ParseFile(m_file, CKTDOMParser::XML_SCHEMA, true));
-    EXPECT_EQ(leaf(m_parser.getXMLDocument().get()),
+    const CKTRedirectedStream console(std::cout);
+    ASSERT_TRUE(m_Parser.ParseFile(m_sFile, CKTDOMParser::XML_SCHEMA, true));
+    EXPECT_EQ(leaf(m_Parser.getXMLDocument().get()),
               "a(base=b default= d  memberTypes=a  b name=n namespace=u ref=r schemaLocation= "
               "substitutionGroup=s type=t value= v )[]");
 }
@@ -117,20 +115,20 @@ TEST_F(ParserTest, NamesOfASchemaHaveNoBlanks) {
 // What the locale lacks is reported for each occurrence, in names and in texts.
 TEST_F(ParserTest, EachTextThatTheLocaleLacksIsReported) {
     std::setlocale(LC_ALL, "C");
-    const RedirectedStream errors(std::cerr);
-    m_parser.ResetErrors();
+    const CKTRedirectedStream errors(std::cerr);
+    m_Parser.ResetErrors();
     ASSERT_TRUE(Parse("<r \xc3\xa4='1'><\xc3\xa4/><\xc3\xa4 a='\xc3\xa4'>\xc3\xa4</\xc3\xa4></r>"));
-    m_parser.getXMLDocument();
-    EXPECT_EQ(m_parser.getErrorCount(), 5) << errors.Text();
-    m_parser.ResetErrors();
+    m_Parser.getXMLDocument();
+    EXPECT_EQ(m_Parser.getErrorCount(), 5) << errors.Text();
+    m_Parser.ResetErrors();
 }
 
 TEST_F(ParserTest, AttributeValuesAreEscapedAndOtherTextIsNot) {
     ASSERT_TRUE(Parse("<r/>"));
-    const RedirectedStream console(std::cout);
-    const auto root = m_parser.getXMLDocument();
+    const CKTRedirectedStream console(std::cout);
+    const auto root = m_Parser.getXMLDocument();
     CKTXMLFormatter& out = *root->getXMLFormatter();
-    std::ofstream target(m_file);
+    std::ofstream target(m_sFile);
     root->getFormatTarget()->setTarget(&target);
     writeIndent(out, 0);
     writeElem(out, "a&b");
@@ -143,9 +141,7 @@ TEST_F(ParserTest, AttributeValuesAreEscapedAndOtherTextIsNot) {
     target.close();
     out << "back";
     EXPECT_EQ(console.Text(), "back");
-    std::ifstream file(m_file);
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}),
-              "<a&b n<=\"a&lt;b&amp;&quot;c&quot;\" e=\"\" plain   <&\">");
+    EXPECT_EQ(ReadFile(m_sFile), "<a&b n<=\"a&lt;b&amp;&quot;c&quot;\" e=\"\" plain   <&\">");
 }
 
 }  // namespace

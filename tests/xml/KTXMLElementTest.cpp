@@ -1,32 +1,29 @@
 #include "xml/KTXMLElement.h"
 
+#include <array>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "ElementTree.h"
+
 namespace {
 
 using Found = std::vector<CKTXMLElement*>;
-
-CKTXMLElement* Add(CKTXMLElement& parent, const char* name) {
-    CKTXMLElement* child = parent.addChildElement(std::make_unique<CKTXMLElement>(name));
-    child->setParent(&parent);
-    return child;
-}
 
 CKTXMLElement* WithName(CKTXMLElement* element, const std::string& key) {
     return key.empty() || element->getName() == key ? element : nullptr;
 }
 
 TEST(Element, NamesAreSplitAtTheirFirstColon) {
-    const char* const rows[][3] = {{"xs:element", "xs", "element"},
-                                   {"a:b:c", "a", "b:c"},
-                                   {"schema", "", "schema"},
-                                   {"", "", ""},
-                                   {"xs:", "xs", ""},
-                                   {":x", "", "x"}};
+    const std::vector<std::array<const char*, 3>> rows = {{"xs:element", "xs", "element"},
+                                                          {"a:b:c", "a", "b:c"},
+                                                          {"schema", "", "schema"},
+                                                          {"", "", ""},
+                                                          {"xs:", "xs", ""},
+                                                          {":x", "", "x"}};
     for (const auto& [name, prefix, local] : rows) {
         EXPECT_EQ(CKTXMLNode::getNameQualifier(name), prefix) << name;
         EXPECT_EQ(CKTXMLNode::getNonQualifiedName(name), local) << name;
@@ -35,11 +32,11 @@ TEST(Element, NamesAreSplitAtTheirFirstColon) {
 
 TEST(Element, SearchGoesDownInDocumentOrderOrAlongTheFollowingSiblings) {
     CKTXMLElement root;
-    CKTXMLElement* schema = Add(root, "schema");
-    CKTXMLElement* a = Add(*schema, "a");
-    CKTXMLElement* b = Add(*a, "b");
-    CKTXMLElement* c = Add(*schema, "c");
-    CKTXMLElement* second = Add(*schema, "b");
+    CKTXMLElement* schema = Add(&root, "schema");
+    CKTXMLElement* a = Add(schema, "a");
+    CKTXMLElement* b = Add(a, "b");
+    CKTXMLElement* c = Add(schema, "c");
+    CKTXMLElement* second = Add(schema, "b");
     Found all;
     root.findElement("", WithName, all, true);
     EXPECT_EQ(all, (Found{&root, schema, a, b, c, second}));

@@ -1,16 +1,19 @@
 #include "xml/PatternSize.h"
 
+#include <vector>
+
 #include <gtest/gtest.h>
 
 namespace {
 
 TEST(PatternSize, RepetitionsAreWrittenOut) {
     constexpr std::uint64_t kEndless = 2147483648;
-    const struct {
+    struct Row {
         std::u16string_view pattern;
         std::uint64_t parts;  // the pattern as a whole is one
         std::size_t depth;
-    } rows[] = {
+    };
+    const std::vector<Row> rows = {
         {u"", 1, 0},
         {u"ab*", 4, 0},
         {u"a{3}b", 5, 0},
@@ -26,8 +29,8 @@ TEST(PatternSize, RepetitionsAreWrittenOut) {
     };
     for (const auto& row : rows) {
         const PatternSize size = MeasurePattern(row.pattern);
-        EXPECT_EQ(size.parts, row.parts) << &row - rows;
-        EXPECT_EQ(size.depth, row.depth) << &row - rows;
+        EXPECT_EQ(size.parts, row.parts) << &row - rows.data();
+        EXPECT_EQ(size.depth, row.depth) << &row - rows.data();
     }
 }
 

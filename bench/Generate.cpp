@@ -6,14 +6,15 @@
 //     generate repeat N              one record of N items with 50 distinct names
 //     generate record N              one record of N items in groups of 100, every name once
 //     generate shared N              the same, but the groups share 20 named types
-//     generate document N SCHEMA     an instance document of N megabytes that names SCHEMA as its
-//     schema generate document-schema       the schema of that document
+//     generate document N SCHEMA     a document of N megabytes that names SCHEMA as its schema
+//     generate document-schema       the schema of that document
 
 #include <algorithm>
 #include <array>
 #include <exception>
 #include <iomanip>
 #include <iostream>
+#include <map>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -354,21 +355,20 @@ void WriteDocument(std::ostream& out, std::size_t megabytes, std::string_view sc
 }
 
 void Generate(std::ostream& out, const std::vector<std::string>& arguments) {
+    using Writer = void (*)(std::ostream&, std::size_t);
+    static const std::map<std::string, Writer> kSchemas{{"types", WriteTypes},
+                                                        {"refs", WriteRefs},
+                                                        {"repeat", WriteRepeat},
+                                                        {"record", WriteRecord},
+                                                        {"shared", WriteShared}};
     const std::string kind = arguments.empty() ? "" : arguments[0];
     if (kind == "document-schema" && arguments.size() == 1) {
         out << kDocumentSchema;
     } else if (kind == "document" && arguments.size() == 3) {
         WriteDocument(out, std::stoul(arguments[1]), arguments[2]);
-    } else if (kind == "types" && arguments.size() == 2) {
-        WriteTypes(out, std::stoul(arguments[1]));
-    } else if (kind == "refs" && arguments.size() == 2) {
-        WriteRefs(out, std::stoul(arguments[1]));
-    } else if (kind == "repeat" && arguments.size() == 2) {
-        WriteRepeat(out, std::stoul(arguments[1]));
-    } else if (kind == "record" && arguments.size() == 2) {
-        WriteRecord(out, std::stoul(arguments[1]));
-    } else if (kind == "shared" && arguments.size() == 2) {
-        WriteShared(out, std::stoul(arguments[1]));
+    } else if (const auto schema = kSchemas.find(kind);
+               schema != kSchemas.end() && arguments.size() == 2) {
+        schema->second(out, std::stoul(arguments[1]));
     } else {
         throw std::invalid_argument(
             "usage: generate types|refs|repeat|record|shared N"

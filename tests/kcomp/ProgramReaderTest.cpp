@@ -1,3 +1,5 @@
+#include "kcomp/ProgramReader.h"
+
 #include <algorithm>
 #include <sstream>
 #include <string>
@@ -5,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include "kcomp/DictionaryWriter.h"
-#include "kcomp/ProgramReader.h"
 
 namespace {
 
@@ -100,12 +101,12 @@ PIC S9V9 VALUE -.5 => numeric picture='S9V9' digits='2' alignment='1' value='-.5
 COMP-2 VALUE +1.5E-3 => numeric usage='comp-2' value='+1.5E-3'
 )";
 
-TEST(Entry, ClausesOfOneItem) {
+TEST(ProgramReader, ClausesOfOneItem) {
     Check(Element, kClauses);
 }
 
-TEST(Entry, ItemsTakeFromGroupsAndOtherItems) {
-    const char* const rows[][2] = {
+TEST(ProgramReader, ItemsTakeFromGroupsAndOtherItems) {
+    const std::vector<std::array<const char*, 2>> rows = {
         // USAGE and SIGN reach down to what they fit, unless an item has its own.
         {"01 G COMP-3 SIGN LEADING SEPARATE. 02 B PIC S9. 02 C PIC S9 DISPLAY. 02 D PIC 9 DISPLAY. "
          "02 H SIGN TRAILING. 03 E PIC S9 DISPLAY. 03 F COMP-1. 77 I PIC S9.",
@@ -179,13 +180,13 @@ std::string ValueOfN(const std::string& source) {
                : shown.substr(place.size(), shown.find('\n') - place.size());
 }
 
-TEST(Entry, ConstantsAreWorkedOut) {
+TEST(ProgramReader, ConstantsAreWorkedOut) {
     Check(ValueOfN, kExpressions);
 }
 
 // Another name for an item, or the bytes of several: 3 + 3 + 2 + 4 + 8 + 4 + 8 + 4 + 4 + 3 + 8 + 4
 // + 4 + 16, the redefinition not counted.
-TEST(Entry, RenamesDescribesAnItemOrARange) {
+TEST(ProgramReader, RenamesDescribesAnItemOrARange) {
     const std::string shown = Read(
         "01 F. 02 B INDEX. 66 A RENAMES B. 01 G. 02 B PIC X(3). 02 C PIC S9(5) COMP-3. 02 D PIC "
         "9(4) COMP. 02 E COMP-1. 02 F COMP-2. "
@@ -276,12 +277,12 @@ FILE SECTION. 01 A PIC X. => The record stands under no FD or SD
 WORKING-STORAGE SECTION 01 A PIC X. => The section header has no period
 )";
 
-TEST(Entry, EachComplaintNamesWhatIsWrong) {
+TEST(ProgramReader, EachComplaintNamesWhatIsWrong) {
     Check(Complaint, kComplaints);
 }
 
 // What may be right on some system, or says nothing about data.
-TEST(Entry, WhatIsNotSurelyWrongIsTaken) {
+TEST(ProgramReader, WhatIsNotSurelyWrongIsTaken) {
     for (const std::string source : {
              "01 A PIC X. 01 B REDEFINES A PIC XX.",
              "77 A PIC X. 77 B REDEFINES A PIC XX.",
@@ -301,7 +302,7 @@ TEST(Entry, WhatIsNotSurelyWrongIsTaken) {
     }
 }
 
-TEST(Entry, AMissingPeriodLosesNothing) {
+TEST(ProgramReader, AMissingPeriodLosesNothing) {
     const std::string error = " : Error : ";
     EXPECT_EQ(Read("FD F\n01 A PIC X.\n"), "a(2)" + error + "The period before 01 is missing\n");
     EXPECT_EQ(Read("FD F\nFD G LABEL RECORD STANDARD 01 A PIC X."),
@@ -327,7 +328,7 @@ TEST(Entry, AMissingPeriodLosesNothing) {
     EXPECT_EQ(std::count(many.begin(), many.end(), '\n'), 101);
 }
 
-TEST(Entry, SpecialNamesEndWithTheirProgram) {
+TEST(ProgramReader, SpecialNamesEndWithTheirProgram) {
     const std::string special = "ENVIRONMENT DIVISION. DECIMAL-POINT IS COMMA. CURRENCY 'F'. ";
     const std::string data = "DATA DIVISION. WORKING-STORAGE SECTION. ";
     const std::string shown =

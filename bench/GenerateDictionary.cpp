@@ -2,9 +2,7 @@
 // always give the same bytes.
 //
 //     generate_dictionary dictionary N   a data dictionary: one record of N items in groups of 50
-//
-//     generate_dictionary mapping N      a mapping file: an entry for each item, none for the
-//     groups
+//     generate_dictionary mapping N      a mapping file: an entry for each item, none for a group
 
 #include <array>
 #include <cstdlib>

@@ -9,7 +9,6 @@
 // command could not be started, was killed, or did not end with the same status every time.
 
 #include <fcntl.h>
-#include <signal.h>
 #include <spawn.h>
 #include <sys/resource.h>
 #include <sys/time.h>
@@ -18,6 +17,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <fstream>
@@ -42,30 +42,31 @@ struct Cost {
 class CKTNullStreams {
 public:
     CKTNullStreams() {
-        check(posix_spawn_file_actions_init(&m_oActions));
-        check(posix_spawn_file_actions_addopen(&m_oActions, 0, "/dev/null", O_RDONLY, 0));
-        check(posix_spawn_file_actions_addopen(&m_oActions, 1, "/dev/null", O_WRONLY, 0));
-        check(posix_spawn_file_actions_addopen(&m_oActions, 2, "/dev/null", O_WRONLY, 0));
+        Check(posix_spawn_file_actions_init(&m_Actions));
+        Check(posix_spawn_file_actions_addopen(&m_Actions, 0, "/dev/null", O_RDONLY, 0));
+        Check(posix_spawn_file_actions_addopen(&m_Actions, 1, "/dev/null", O_WRONLY, 0));
+        Check(posix_spawn_file_actions_addopen(&m_Actions, 2, "/dev/null", O_WRONLY, 0));
     }
-    ~CKTNullStreams() { posix_spawn_file_actions_destroy(&m_oActions); }
+    ~CKTNullStreams() { posix_spawn_file_actions_destroy(&m_Actions); }
     CKTNullStreams(const CKTNullStreams&) = delete;
     CKTNullStreams& operator=(const CKTNullStreams&) = delete;
 
-    [[nodiscard]] const posix_spawn_file_actions_t* get() const { return &m_oActions; }
+    [[nodiscard]] const posix_spawn_file_actions_t* Get() const { return &m_Actions; }
 
-    static void check(int code) {
+    static void Check(int code) {
         if (code != 0) {
             throw std::system_error(code, std::generic_category(), "posix_spawn");
         }
     }
 
 private:
-    posix_spawn_file_actions_t m_oActions{};
+    posix_spawn_file_actions_t m_Actions{};
 };
 
 pid_t Start(const Command& command) {
     std::vector<std::string> words = command;
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words) {
         arguments.push_back(word.data());
     }
@@ -74,7 +75,7 @@ pid_t Start(const Command& command) {
     const CKTNullStreams streams;
     pid_t child = 0;
     const int code =
-        posix_spawn(&child, arguments[0], streams.get(), nullptr, arguments.data(), environ);
+        posix_spawn(&child, arguments[0], streams.Get(), nullptr, arguments.data(), environ);
     if (code != 0) {
         throw std::system_error(code, std::generic_category(), command.front());
     }
@@ -165,6 +166,7 @@ void Print(int round, std::size_t number, const Cost& cost) {
 
 void Measure(int rounds, int batch, const std::vector<Command>& commands) {
     std::vector<int> statuses;
+    statuses.reserve(commands.size());
     for (const Command& command : commands) {
         statuses.push_back(RunBatch(command, batch).status);
     }

@@ -40,7 +40,7 @@ public:
     // The parser calls this at the start of every parse; the count is of the whole run.
     void resetErrors() override {}
 
-    [[nodiscard]] int problems() const { return m_nProblems; }
+    [[nodiscard]] int Problems() const { return m_nProblems; }
 
 private:
     int m_nProblems = 0;
@@ -87,8 +87,8 @@ int Run(const Task& task, const std::string& file) {
     Configure(parser, handler);
     try {
         const bool done = task(parser, file);
-        if (!done || handler.problems() > 0) {
-            std::cerr << "floor: " << file << ": " << handler.problems() << " problem(s)\n";
+        if (!done || handler.Problems() > 0) {
+            std::cerr << "floor: " << file << ": " << handler.Problems() << " problem(s)\n";
             return 1;
         }
     } catch (const xercesc::XMLException&) {
