@@ -8,7 +8,6 @@
 #include "support/Console.h"
 
 #include <array>
-#include <cstdlib>
 #include <iostream>
 #include <optional>
 #include <string>
@@ -166,10 +165,6 @@ void RestoreStreams() {
             Report<SupportMessage::UnwritableOutput>(kLogName);
         }
     }
-}
-
-void TerminateProgram(int status) {
-    std::exit(status);
 }
 
 int ExitStatus() {

@@ -19,29 +19,8 @@ void CKTDOMFormatTarget::writeChars(const XMLByte* bytes, XMLSize_t count, XMLFo
     std::cout.write(reinterpret_cast<const char*>(bytes), static_cast<std::streamsize>(count));
 }
 
-void CKTDOMFormatTarget::setTarget(std::ofstream* file) {
-    m_pFileBuffer = file->rdbuf();
-    // What was written before belongs to the old buffer.
-    std::cout.flush();
-    std::cout.rdbuf(m_pFileBuffer);
-}
-
-void CKTDOMFormatTarget::restoreTarget() {
-    std::cout.flush();
-    std::cout.rdbuf(m_pSavedBuffer);
-    m_pFileBuffer = nullptr;
-}
-
 CKTXMLFormatter::CKTXMLFormatter(CKTDOMFormatTarget& target)
     : XMLFormatter(xercesc::XMLUni::fgUTF8EncodingString, &target, NoEscapes, UnRep_CharRef) {}
-
-void writeIndent(XMLFormatter& f, unsigned int n) {
-    f << XMLFormatter::NoEscapes << std::string(n, ' ').c_str();
-}
-
-void writeElem(XMLFormatter& f, const char* name) {
-    f << XMLFormatter::NoEscapes << "<" << name;
-}
 
 void writeAttr(XMLFormatter& f, const char* name, const char* value) {
     f << XMLFormatter::NoEscapes << " " << name << "=\"" << XMLFormatter::AttrEscapes << value
@@ -55,12 +34,4 @@ XMLFormatter& operator<<(XMLFormatter& f, const char* text) {
         f.formatBuf(wide.c_str(), wide.size());
     }
     return f;
-}
-
-XMLFormatter& operator<<(XMLFormatter& f, const xercesc::DOMNode& node) {
-    return f << node.getNodeName();
-}
-
-std::ostream& operator<<(std::ostream& stream, const XMLCh* text) {
-    return stream << NarrowText(text);
 }
