@@ -13,6 +13,7 @@
 
 #include "../support/RedirectedStream.h"
 #include "xml/KTDOMFormatTarget.h"
+#include "xml/Paths.h"
 
 namespace {
 
@@ -146,6 +147,11 @@ TEST_F(ParserTest, AttributeValuesAreEscapedAndOtherTextIsNot) {
     std::ifstream file(m_file);
     EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}),
               "<a&b n<=\"a&lt;b&amp;&quot;c&quot;\" e=\"\" plain   <&\">");
+}
+
+TEST(Paths, StepsUpStayAboveTheRoot) {
+    EXPECT_EQ(WeavePaths("/a/b/c.xsd", "../../d.xsd"), "/d.xsd");
+    EXPECT_EQ(WeavePaths("/a/b.xsd", "../../../c.xsd"), "/../../c.xsd");
 }
 
 }  // namespace
