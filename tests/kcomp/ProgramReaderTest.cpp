@@ -109,11 +109,11 @@ TEST(ProgramReader, ItemsTakeFromGroupsAndOtherItems) {
     const std::vector<std::array<const char*, 2>> rows = {
         // USAGE and SIGN reach down to what they fit, unless an item has its own.
         {"01 G COMP-3 SIGN LEADING SEPARATE. 02 B PIC S9. 02 C PIC S9 DISPLAY. 02 D PIC 9 DISPLAY. "
-         "02 H SIGN TRAILING. 03 E PIC S9 DISPLAY. 03 F COMP-1. 77 I PIC S9.",
+         "02 H SIGN TRAILING. 49 E PIC S9 DISPLAY. 49 F COMP-1. 77 I PIC S9.",
          "<group name='G' level='01'><numeric name='B' level='02' picture='S9' usage='comp-3' "
          "digits='1'/><numeric name='C' level='02' picture='S9' digits='1' sign='ls'/><numeric "
          "name='D' level='02' picture='9' digits='1'/><group name='H' level='02'><numeric name='E' "
-         "level='03' picture='S9' digits='1'/><numeric name='F' level='03' usage='comp-1'/></group>"
+         "level='49' picture='S9' digits='1'/><numeric name='F' level='49' usage='comp-1'/></group>"
          "</group><numeric name='I' level='77' picture='S9' digits='1'/>"},
         // Unnamed items; a redefinition; the levels of a copybook that belongs under a record.
         {"05 FILLER. 10 INDEX. 10 filler INDEX. 05 B INDEX. 05 C REDEFINES b INDEX.",

@@ -124,9 +124,9 @@ TEST(Facets, WhiteSpaceIsExplainedByTheValueOfTheRestriction) {
 
 TEST(Facets, EnumerationsReplaceInheritedConditionsAndMayMoveTheValue) {
     const std::vector<std::array<const char*, 2>> rows = {
-        {"enumeration=A enumeration=B enumeration=A enumeration=C",
+        {"enumeration=A enumeration=B enumeration=A enumeration=C enumeration=D",
          "()-1,; 2/8 part X(4)-1,; 88/9 enumerator-1 A; 88/9 enumerator-2 B; 88/9 enumerator-4 C; "
-         "3/9 code-value X(6)7,2"},
+         "88/9 enumerator-4 D; 3/9 code-value X(6)7,2"},
         {"enumeration=A enumeration", "X(6)7,2; 2/8 part X(4)-1,; 88/9 enumerator-1 A"},
         {"enumeration=A annotation", "X(6)7,2; 2/8 part X(4)-1,; 88/9 enumerator-1 A"},
         {"enumeration", "X(6)7,2; 88/8 old A; 2/8 part X(4)-1,"},

@@ -12,6 +12,7 @@
 #include "RedirectedStream.h"
 #include "ScratchFiles.h"
 #include "xml/KTDOMFormatTarget.h"
+#include "xml/Paths.h"
 
 namespace {
 
@@ -142,6 +143,11 @@ TEST_F(ParserTest, AttributeValuesAreEscapedAndOtherTextIsNot) {
     out << "back";
     EXPECT_EQ(console.Text(), "back");
     EXPECT_EQ(ReadFile(m_sFile), "<a&b n<=\"a&lt;b&amp;&quot;c&quot;\" e=\"\" plain   <&\">");
+}
+
+TEST(Paths, StepsUpStayAboveTheRoot) {
+    EXPECT_EQ(WeavePaths("/a/b/c.xsd", "../../d.xsd"), "/d.xsd");
+    EXPECT_EQ(WeavePaths("/a/b.xsd", "../../../c.xsd"), "/../../c.xsd");
 }
 
 }  // namespace

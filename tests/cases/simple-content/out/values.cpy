@@ -16,6 +16,8 @@
          03 more PIC X(80) identified by "more" is attribute.
         02 cut-unit identified by "cut-unit".
          03 gauge PIC X(80) identified by "gauge" is attribute.
+        02 cut-type identified by "cut-type".
+         03 gauge PIC X(80) identified by "gauge" is attribute.
         02 tokens identified by "tokens".
          03 gauge PIC X(80) identified by "gauge" is attribute.
         02 refs identified by "refs".
