@@ -44,6 +44,7 @@ CKTItemText& CKTItemText::operator=(const CKTItemText& other) {
 }
 
 CKTItemText& CKTItemText::operator=(CKTItemText&& other) noexcept {
+    // What was here ends with the other text.
     std::swap(m_Bytes, other.m_Bytes);
     return *this;
 }

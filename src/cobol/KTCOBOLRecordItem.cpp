@@ -51,6 +51,7 @@ void CKTCOBOLRecordItem::ReportEmptyStructure() {
 
 void CKTCOBOLRecordItem::setCOBOLDataName(CKTItemText& target, std::string_view name) {
     target = name;
+    // Not every compiler takes an underscore in a data name.
     target.Replace('_', '-');
 }
 

@@ -35,6 +35,7 @@ bool CKTCOBOLRecordItem::FindRecordItemByName(CKTCOBOLRecordItem* searchIn,
             reached = true;
             return true;
         }
+        // What is not written takes no name from others.
         if (child->IsValidCOBOLItem() && child->m_sDataName == item->m_sDataName) {
             return true;
         }
@@ -53,6 +54,7 @@ std::string CKTCOBOLRecordItem::PictureClause() const {
 
 void CKTCOBOLRecordItem::OutputCOBOLToken(const char* token, std::ostream& out, int indent,
                                           int& column, bool comment) {
+    // What is not written must not move the column.
     if (out.fail()) {
         return;
     }

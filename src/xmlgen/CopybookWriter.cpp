@@ -22,6 +22,7 @@ struct FixedClause {
     std::string_view text;
 };
 
+// In the order in which they are written; each stands for one value of its attribute.
 constexpr std::array kFixedClauses = {
     FixedClause{Clause::Sign, "li", " sign is leading"},
     FixedClause{Clause::Sign, "ls", " sign is leading separate"},
@@ -108,6 +109,7 @@ bool CKTCopybookWriter::BeginDataItem(const DictionaryItem& item) {
 void CKTCopybookWriter::BeginLine(const CKTItemClauses& clauses, int level,
                                   const std::string& number) {
     const std::string_view name = clauses.Text(Clause::Name);
+    // Indented by level, so that the groups show.
     m_sLine.assign(static_cast<std::size_t>(level) + 7, ' ');
     m_sLine += number;
     m_sLine += ' ';
@@ -132,6 +134,7 @@ void CKTCopybookWriter::AppendOccurs(const CKTItemClauses& clauses) {
         return;
     }
     m_sLine += " occurs ";
+    // Equal bounds are a fixed number.
     if (clauses.Has(Clause::MinOccurs) && clauses.Text(Clause::MinOccurs) != maximum) {
         m_sLine += clauses.Text(Clause::MinOccurs);
         m_sLine += " to ";

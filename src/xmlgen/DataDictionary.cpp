@@ -1,5 +1,6 @@
 // The vocabulary of the compiler's data dictionary, and the choice of the record. Elements of
-// unknown names are passed over everywhere.
+// unknown names are passed over everywhere, so that a dictionary may hold more than is read.
+// Attributes are judged where they are used.
 
 #include "xmlgen/DataDictionary.h"
 

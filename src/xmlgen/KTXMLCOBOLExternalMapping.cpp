@@ -82,6 +82,7 @@ bool CKTXMLCOBOLExternalMapping::Initialize(const CKTXMLElement* e, CKTXMLCOBOLM
         if (element == nullptr) {
             continue;
         }
+        // What stands beside the given element is not part of it.
         if (element != e) {
             pending.emplace_back(element->getNextSibling(), entry);
         }
@@ -90,6 +91,7 @@ bool CKTXMLCOBOLExternalMapping::Initialize(const CKTXMLElement* e, CKTXMLCOBOLM
             ClearAndDestroy();
             return false;
         }
+        // On top of the stack, so that entries and fields come in the order of the file.
         pending.emplace_back(element->getFirstChildElem(), entry);
     }
     return true;
@@ -101,6 +103,7 @@ bool CKTXMLCOBOLExternalMapping::TakeElement(const CKTXMLElement* e, CKTXMLCOBOL
         // Fields fill the entry that was begun last, however deep they stand.
         current = addXMLCOBOLMapping(std::make_unique<CKTXMLCOBOLMapping>());
     } else if (current != nullptr) {
+        // The name may change, by which the entry was found.
         m_bIndexed = false;
         SetField(*current, kind, FieldText(e));
     }
@@ -159,6 +162,7 @@ void CKTXMLCOBOLExternalMapping::BuildIndex() {
     m_Index.clear();
     m_Index.reserve(m_Entries.size());
     for (const auto& entry : m_Entries) {
+        // Keeps the entry that is there.
         m_Index.try_emplace(entry->m_sCobolName, entry.get());
     }
     m_bIndexed = true;
@@ -169,6 +173,7 @@ CKTXMLCOBOLMapping* CKTXMLCOBOLExternalMapping::getFirst() const {
 }
 
 void CKTXMLCOBOLExternalMapping::ClearAndDestroy() {
+    // First what points at the entries, then the entries.
     m_Index.clear();
     m_bIndexed = false;
     m_Entries.clear();

@@ -19,6 +19,7 @@
 
 namespace {
 
+// A mapping file made for another record would fill the screen.
 constexpr std::size_t kMostIdleEntries = 20;
 
 }  // namespace
@@ -39,6 +40,7 @@ void CKTXMLGenerator::setCOBOLDataDictionary(CKTXMLElement* dictionary) {
 void CKTXMLGenerator::setXMLCOBOLExternalMapping(CKTXMLCOBOLExternalMapping* mapping) {
     if (mapping != nullptr) {
         m_pMapping = mapping;
+        // It shows what the old mapping set says.
         m_pView.reset();
     }
 }
@@ -88,6 +90,7 @@ bool CKTXMLGenerator::GenerateFile(const std::string& dataDictFile, const std::s
         return false;
     }
     m_bCountIn = countIn;
+    // A type without a file of its own has no name, and is complained of as such.
     const std::string name = type == EXTERNAL_MAPPING ? mappingFile
                              : type == XML_SCHEMA     ? schemaFile
                              : type == ENHANCED_COBOL ? cobolFile

@@ -40,6 +40,7 @@ void CKTMappingWriter::End(const DictionaryItem& item) {
 
 void CKTMappingWriter::WriteEntry(const DictionaryItem& item, const CKTItemClauses& clauses) {
     const std::string& name = *clauses.Find(Clause::Name);
+    // A group has no type of XML Schema.
     const bool group = item.kind == DictionaryKind::Group;
     m_Markup.Add("<xml-cobol-mapping>\n", kEntryIndent);
     WriteField("cobol-name", CKTQualifiedName(item.element).Text());

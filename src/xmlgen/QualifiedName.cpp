@@ -33,6 +33,7 @@ std::uint64_t CKTQualifiedName::Continue(std::uint64_t hash, std::string_view te
 
 CKTQualifiedName::CKTQualifiedName(const CKTXMLElement* e) : m_pElement(e) {
     std::vector<std::string_view> names = NamesUpwards(e);
+    // From the last, which is the outermost.
     for (; !names.empty(); names.pop_back()) {
         m_nHash = Continue(Continue(m_nHash, m_bNamed ? "." : ""), names.back());
         m_bNamed = true;

@@ -1,5 +1,7 @@
 // What no run calls: the service description, and methods of the generator that are its interface
-// all the same, of which the runs use what stands behind them.
+// all the same, of which the runs use what stands behind them. The service description is one more
+// writer for the traversal, flat like the mapping file; the methods ask for one item, and make anew
+// what the view keeps for all.
 
 #include "xmlgen/KTXMLGenerator.h"
 #include "xmlgen/ServiceWriter.h"
@@ -60,6 +62,7 @@ void CKTServiceWriter::WriteRoot(const DictionaryItem& program) {
     m_Markup.Add("<parameterTypeDefs>\n", 3);
 }
 
+// The dictionary comes as a tree, for which no parser is needed.
 void CKTXMLGenerator::setDOMParser(const CKTDOMParser* /*parser*/) {}
 
 int CKTXMLGenerator::getDataDictElementType(const CKTXMLElement* e) {
@@ -83,6 +86,7 @@ bool CKTXMLGenerator::ApplyExternalMappingFile(const CKTXMLElement* item,
         return false;
     }
     const CKTXMLCOBOLMapping* entry = mapping->findMapping(getQualifiedNameAttr(item), index);
+    // The defaults of an item without an entry stand.
     if (entry == nullptr) {
         return true;
     }

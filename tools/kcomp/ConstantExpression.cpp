@@ -1,4 +1,10 @@
-// Expressions of constants, by operator precedence over 64-bit integers; quotients are cut off.
+// Expressions of constants, by operator precedence: an operand, then each operator that binds
+// tighter than the one before it, with a right side that is read in the same way. Where precedence
+// does not count, all operators have the lowest one and so act from left to right. Numbers are
+// integers of 64 bits, each result is checked against their range, and quotients are cut off.
+// Parentheses are counted, which bounds the recursion. The first fault ends the reading; saying it
+// is left to the caller.
+
 #include "kcomp/ConstantExpression.h"
 
 #include <algorithm>
@@ -15,6 +21,7 @@ namespace {
 using Number = std::int64_t;
 
 constexpr int kMostNested = 20;
+// Every number of so many digits fits 64 bits.
 constexpr std::size_t kMostDigits = 18;
 
 struct Operator {
@@ -39,10 +46,12 @@ std::optional<Number> Product(Number a, Number b) {
 }
 
 std::optional<Number> Quotient(Number a, Number b) {
+    // The least number has no counterpart of the other sign.
     return b == 0 || (b == -1 && a == INT64_MIN) ? std::nullopt : std::optional(a / b);
 }
 
 std::optional<Number> Power(Number base, Number exponent) {
+    // All but a few such powers are fractions.
     if (exponent < 0) {
         return std::nullopt;
     }
@@ -97,6 +106,7 @@ private:
             const Number right = TakeSum(precedence, nesting);
             const std::optional<Number> result = found->apply(value, right);
             if (m_Fault.Empty() && !result) {
+                // The complaint points at the operator, whose operands are right by themselves.
                 m_nAt = place;
                 m_Fault = TextOf<Message::ExpressionRange>();
             }
@@ -106,6 +116,7 @@ private:
     }
 
     Number TakeOperand(int nesting) {
+        // Nested deeper, a parenthesis is refused like anything that is no operand.
         if (IsMark(m_Words, m_nAt, "(") && nesting < kMostNested) {
             ++m_nAt;
             const Number value = TakeSum(0, nesting + 1);
@@ -121,6 +132,7 @@ private:
         std::string text;
         if (m_nAt < m_Words.size() && m_Words[m_nAt].kind == WordKind::Word) {
             const auto constant = m_Context.constants.find(ToUpper(m_Words[m_nAt].text));
+            // A constant whose value is a literal is refused below like any other text.
             text = constant == m_Context.constants.end() ? m_Words[m_nAt].text : constant->second;
         }
         const std::size_t sign = text.starts_with('+') || text.starts_with('-') ? 1 : 0;
@@ -150,6 +162,7 @@ private:
         DataItem* found = nullptr;
         const auto range = m_Context.items.equal_range(name);
         for (auto item = range.first; item != range.second; ++item) {
+            // Names may repeat in other groups; those that are written have to tell which is meant.
             if (!IsBelow(item->second, groups)) {
                 continue;
             }

@@ -1,3 +1,7 @@
+// Finds copy files by trying names: directory by directory, in each one extension after the other,
+// each with all spellings. The first regular file counts, so the source's own directory hides the
+// others. Reading the file is left to the source reader, and so is a library that COPY names.
+
 #include "kcomp/CopyLibrary.h"
 
 #include <algorithm>
@@ -35,6 +39,7 @@ CKTCopyLibrary::CKTCopyLibrary(std::string_view source, std::string_view path) {
 
 std::optional<std::string> CKTCopyLibrary::Find(const std::string& name, bool literal) const {
     std::vector<std::string> spellings = {name};
+    // The case of a COBOL word means nothing, that of a file name does.
     if (!literal) {
         spellings.push_back(ToLower(name));
         spellings.push_back(ToUpper(name));
@@ -42,6 +47,7 @@ std::optional<std::string> CKTCopyLibrary::Find(const std::string& name, bool li
     for (const std::string& directory : m_Directories) {
         for (const std::string_view extension : kExtensions) {
             for (const std::string& spelling : spellings) {
+                // An absolute name is the same file from everywhere.
                 std::string file = spelling.starts_with('/') ? spelling : directory + spelling;
                 file += extension;
                 std::error_code ignored;

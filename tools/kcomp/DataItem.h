@@ -10,12 +10,14 @@
 #include "kcomp/Picture.h"
 #include "kcomp/Report.h"
 
+/// Levels with a meaning of their own, and the highest of a data item in a record.
 constexpr int kRenamesLevel = 66;
 constexpr int kLoneLevel = 77;
 constexpr int kConstantLevel = 78;
 constexpr int kConditionLevel = 88;
 constexpr int kHighestLevel = 49;
 
+/// What an item is kept as. Spellings of one usage are one.
 enum class Usage {
     None,  ///< no clause
     Display,
@@ -32,6 +34,7 @@ enum class Usage {
     ProcedurePointer
 };
 
+/// Where the sign stands; separate ones take up a byte.
 enum class SignPosition { None, Leading, LeadingSeparate, Trailing, TrailingSeparate };
 
 /// A value, or a range when `through` is not empty; both as the dictionary holds them.
@@ -41,7 +44,9 @@ struct ItemValue {
 };
 
 /// One data description entry, and what stands below it. Texts are empty and flags false where
-/// the entry has no such clause.
+/// the entry has no such clause. Values and numbers of occurrences are texts, because the
+/// dictionary takes them as they are. An item owns its children; other items that it points at
+/// belong to the same area and live as long.
 struct DataItem {
     int level = 0;
     std::string name;  ///< empty for FILLER
@@ -85,13 +90,15 @@ struct DataItem {
     std::size_t placedEnd = 0;
 };
 
-/// The records of one FD or SD, or the items of WORKING-STORAGE.
+/// The records of one FD or SD, or the items of WORKING-STORAGE; named constants stand among them,
+/// in the order of the source.
 struct RecordArea {
     bool isFile = false;
     std::string name;  ///< of the file
     std::vector<std::unique_ptr<DataItem>> items;
 };
 
+/// A program with its data; a bare copybook counts as one.
 struct ProgramData {
     std::string name;
     std::deque<RecordArea> areas;  ///< in the order of the source

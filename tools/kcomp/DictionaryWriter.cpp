@@ -1,3 +1,8 @@
+// Writes the dictionary into one string, one element a line, in the order of the source. The
+// encoding is known when all text is there, so the line that names it is put in front at the end.
+// The recursion is bounded by the levels, which rise from an item to those below it. What clauses
+// mean was worked out before, and nothing is judged here. An attribute without a text is left out.
+
 #include "kcomp/DictionaryWriter.h"
 
 #include <array>
@@ -7,6 +12,7 @@
 
 namespace {
 
+/// Whether the text is UTF-8 and holds none of the codes beyond ASCII that XML refuses.
 bool IsUtf8(std::string_view text) {
     for (std::size_t i = 0; i < text.size();) {
         const auto byte = static_cast<unsigned char>(text[i++]);
@@ -18,11 +24,13 @@ bool IsUtf8(std::string_view text) {
         } else if (byte >= 0xC0) {
             following = 1;
         }
+        // The bit behind the leading ones is zero, so that the mask may leave it in.
         unsigned long code = byte & (0x7FU >> following);
         const bool leads = byte < 0x80 || (byte >= 0xC2 && byte <= 0xF4);
         if (!leads || text.size() - i < following) {
             return false;
         }
+        // A form that is longer than its code needs is no UTF-8.
         constexpr std::array<unsigned long, 4> kLeast = {0, 0x80, 0x800, 0x10000};
         for (std::size_t end = i + following; i < end; ++i) {
             const auto next = static_cast<unsigned char>(text[i]);
@@ -31,6 +39,7 @@ bool IsUtf8(std::string_view text) {
             }
             code = code << 6U | (next & 0x3FU);
         }
+        // XML takes neither surrogates nor the last two codes of the first plane.
         const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
         if (code < kLeast[following] || code > 0x10FFFF || surrogate || (code & ~1UL) == 0xFFFE) {
             return false;
@@ -39,7 +48,7 @@ bool IsUtf8(std::string_view text) {
     return true;
 }
 
-/// What no document can hold; it can only come from the name of a file.
+/// What no document can hold, or not as it is; it can only come from the name of a file.
 bool IsControl(char c) {
     return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
 }
@@ -62,13 +71,16 @@ std::string_view ElementOf(const DataItem& item) {
     }
 }
 
+/// In the order of Usage. DISPLAY is what an item has that says nothing.
 std::string_view UsageOf(const DataItem& item) {
     constexpr std::array<std::string_view, 13> kTexts = {
         "",      "",        "comp-1",   "comp-2", "comp-3", "comp-4",           "comp-5",
         "index", "pointer", "national", "comp-x", "comp-6", "procedure-pointer"};
+    // A group only hands its usage down.
     return item.isGroup ? "" : kTexts.at(static_cast<std::size_t>(item.usage));
 }
 
+/// In the order of SignPosition. A sign within the last digit needs no clause.
 std::string_view SignOf(const DataItem& item) {
     constexpr std::array<std::string_view, 5> kTexts = {"", "li", "ls", "", "ts"};
     return item.isGroup ? "" : kTexts.at(static_cast<std::size_t>(item.sign));
@@ -82,6 +94,7 @@ public:
             WriteProgram(program);
         }
         Close("dataDictionary");
+        // Any bytes can be read as ISO-8859-1, so one of the two always fits.
         const std::string encoding = IsUtf8(m_sText) ? "UTF-8" : "ISO-8859-1";
         return "<?xml version=\"1.0\" encoding=\"" + encoding + "\"?>\n" + m_sText;
     }
@@ -91,6 +104,7 @@ private:
         Open("program", program.name);
         for (std::size_t i = 0; i < program.areas.size(); ++i) {
             const RecordArea& area = program.areas[i];
+            // Areas of one kind that follow each other share a container.
             const bool first = i == 0 || program.areas[i - 1].isFile != area.isFile;
             const bool last =
                 i + 1 == program.areas.size() || program.areas[i + 1].isFile != area.isFile;
@@ -116,6 +130,7 @@ private:
 
     /// Nests no deeper than levels do.
     void WriteItem(const DataItem& item) {
+        // A constant takes up no storage and stands beside the records, wherever it was written.
         if (item.isConstant) {
             WriteConstant(item);
             return;
@@ -131,6 +146,7 @@ private:
         ++m_nDepth;
         for (const auto& child : item.children) {
             if (child->level == kConditionLevel) {
+                // Its values are compared with the item above it, whose category they go by.
                 WriteCondition(*child, item);
             } else {
                 WriteItem(*child);
@@ -143,6 +159,7 @@ private:
         const bool numeric = !item.isGroup && item.category == Category::Numeric;
         const bool national = !item.isGroup && item.category == Category::National;
         const Picture& description = item.description;
+        // The length counts bytes, of which a national character has two.
         const std::size_t positions = description.length * (national ? 2 : 1);
         Attribute("name", item.name.empty() ? "filler" : item.name);
         Attribute("level", (item.level < 10 ? "0" : "") + std::to_string(item.level));
@@ -161,6 +178,7 @@ private:
         Attribute("minOccurs", item.minOccurs);
         Attribute("maxOccurs", item.maxOccurs);
         Attribute("odo", item.odo);
+        // One at most: several values belong to a condition-name, which is written apart.
         if (!item.values.empty()) {
             Attribute("value", item.values.front().value);
         }
@@ -168,6 +186,7 @@ private:
     }
 
     void WriteCondition(const DataItem& condition, const DataItem& item) {
+        // A group is compared as text, whatever its items hold.
         const bool numeric = !item.isGroup && item.category == Category::Numeric;
         const std::string kind = numeric ? "numeric" : "alphanumeric";
         Begin(kind + "Condition");
@@ -187,6 +206,7 @@ private:
 
     void WriteConstant(const DataItem& constant) {
         const std::string& value = constant.values.front().value;
+        // Literals have their quotation marks, and figurative constants have other letters.
         const bool numeric = value.find_first_not_of("0123456789+-.,Ee") == std::string::npos;
         Begin(numeric ? "numericConstant" : "alphanumericConstant");
         Attribute("name", constant.name);
@@ -201,6 +221,7 @@ private:
         }
     }
 
+    /// Zero says no more than a missing attribute does.
     static std::string Number(std::size_t number) {
         return number == 0 ? std::string() : std::to_string(number);
     }
@@ -233,6 +254,7 @@ private:
         m_sText += ' ';
         m_sText += name;
         m_sText += "=\"";
+        // Between double quotation marks these are all that have to be escaped.
         for (const char c : text) {
             switch (c) {
                 case '&':

@@ -6,8 +6,9 @@
 
 #include "kcomp/DataItem.h"
 
-/// The data dictionary of the programs as an XML document. It is in UTF-8 when all names and
-/// values are, otherwise in ISO-8859-1, and says which.
+/// Returns the data dictionary of `programs`, in their order, as an XML document. It is in UTF-8
+/// when all names and values are, otherwise in ISO-8859-1, and says which. All records have to be
+/// complete and without faults; nothing is reported.
 std::string DictionaryOf(const std::deque<ProgramData>& programs);
 
 #endif

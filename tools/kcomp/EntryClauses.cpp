@@ -1,4 +1,9 @@
-// The clauses of a data description entry.
+// The clauses of a data description entry, one function each. The table in EntryReader.cpp calls it
+// behind the clause's first word or, where that word tells what is meant, before it. Words that may
+// be left out are skipped where they stand and never asked for. A clause is noted as it is written:
+// an attribute and its text when the dictionary passes it on, else a member of the item. Whether
+// clauses go together is left to CheckEntry, and what they mean to the completion of the record.
+
 #include <algorithm>
 
 #include "kcomp/EntryReader.h"
@@ -12,6 +17,8 @@ struct UsageWord {
     std::size_t digits;        // of such a type
 };
 
+/// Types with a size of their own, 1, 2, 4 or 8 bytes, bring the PICTURE that stands for it. Their
+/// digits are those of the largest number that so many bytes hold.
 const UsageWord* UsageOf(std::string_view word) {
     static const std::unordered_map<std::string, UsageWord> usages = {
         {"BINARY", {Usage::Comp4, "", 0}},
@@ -37,6 +44,7 @@ const UsageWord* UsageOf(std::string_view word) {
         {"POINTER", {Usage::Pointer, "", 0}},
         {"PROCEDURE-POINTER", {Usage::ProcedurePointer, "", 0}},
     };
+    // All forms of COMP may be spelled in full.
     constexpr std::string_view kLong = "COMPUTATIONAL";
     std::string upper = ToUpper(word);
     if (upper.starts_with(kLong)) {
@@ -84,6 +92,7 @@ void CKTEntryReader::ReadDepending() {
 void CKTEntryReader::ReadExternal() {
     Skip("AS");
     const bool named = m_nAt < m_Words.size() && m_Words[m_nAt].kind == WordKind::Literal;
+    // Without a literal the item is known to other programs by its own name.
     m_pItem->notes.emplace_back("external", named ? TakeLiteralText() : "true");
 }
 
@@ -109,6 +118,7 @@ void CKTEntryReader::ReadIndexed() {
 
 // "IS" says nothing of its own; what may follow it is a clause.
 void CKTEntryReader::ReadIs() {
+    // A word that begins no clause is complained of as such when it is read.
     const bool known = m_nAt == m_Words.size() || ClauseOf(m_Words[m_nAt]) != nullptr;
     if (known && !IsOneOf({"ATTRIBUTE", "EXTERNAL", "GLOBAL"})) {
         Fail(TextOf<Message::UnexpectedIs>());
@@ -116,6 +126,7 @@ void CKTEntryReader::ReadIs() {
 }
 
 void CKTEntryReader::ReadJustified() {
+    // There is no other side to choose.
     Skip("RIGHT");
     m_pItem->justified = true;
 }
@@ -152,6 +163,7 @@ void CKTEntryReader::ReadNote() {
 void CKTEntryReader::ReadOccurs() {
     const std::size_t start = m_nAt;
     const auto take = [this] { return Skip("UNBOUNDED") ? "unbounded" : TakeInteger(); };
+    // A single number says how often; before TO it is the lower bound.
     m_pItem->maxOccurs = take();
     if (IsDigits(m_pItem->maxOccurs) && Skip("TO")) {
         m_pItem->minOccurs = m_pItem->maxOccurs;
@@ -161,11 +173,14 @@ void CKTEntryReader::ReadOccurs() {
     if (m_bFailed) {
         return;
     }
+    // Working storage has a fixed size; a table without bounds can only lie in storage that comes
+    // from elsewhere.
     const bool bounded = IsDigits(m_pItem->maxOccurs);
     if (!bounded && m_Context.inStorage) {
         FailAt(start, TextOf<Message::UnboundedStorage>());
         return;
     }
+    // Both numbers have nine digits at most.
     const long maximum = bounded ? std::stol(m_pItem->maxOccurs) : 0;
     const bool rising = m_pItem->minOccurs.empty() || std::stol(m_pItem->minOccurs) < maximum;
     if (bounded && (maximum == 0 || !rising)) {
@@ -176,6 +191,7 @@ void CKTEntryReader::ReadOccurs() {
 void CKTEntryReader::ReadPicture() {
     Skip("IS");
     std::string text;
+    // Faults of the character-string come up later and have to point at it.
     m_pItem->picturePlace = m_Words[std::min(m_nAt, m_Words.size() - 1)].place;
     const auto isPiece = [this, &text] {
         if (m_nAt == m_Words.size()) {
@@ -185,8 +201,10 @@ void CKTEntryReader::ReadPicture() {
         return (word.kind == WordKind::Word || word.kind == WordKind::Mark) &&
                (text.empty() || word.glued);
     };
+    // Parentheses are words of their own, so 9(5)V99 comes in five pieces without blanks.
     while (isPiece()) {
         const TextWord& word = m_Words[m_nAt++];
+        // A count may be given by the name of a constant.
         const std::string* constant = text.ends_with('(') ? ConstantOf(word.text) : nullptr;
         text += constant == nullptr ? word.text : *constant;
     }
@@ -201,6 +219,7 @@ void CKTEntryReader::ReadRedefines() {
 }
 
 void CKTEntryReader::ReadRenames() {
+    // The items are looked up when the record is complete.
     m_pItem->renames = TakeQualifiedName();
     if (Skip("THRU") || Skip("THROUGH")) {
         m_pItem->renamesThrough = TakeQualifiedName();
@@ -208,6 +227,7 @@ void CKTEntryReader::ReadRenames() {
 }
 
 void CKTEntryReader::ReadSign() {
+    // A clause may begin with the position alone.
     Skip("SIGN");
     Skip("IS");
     const bool leading = Skip("LEADING");
@@ -252,8 +272,10 @@ void CKTEntryReader::ReadUsageWord() {
     if (word->digits == 0) {
         return;
     }
+    // These types have a sign unless they say otherwise.
     Skip("SIGNED");
     const bool isSigned = !Skip("UNSIGNED");
+    // Without the sign, only the largest number of 64 bits has one digit more.
     constexpr std::size_t kSignedDouble = 19;
     m_pItem->binaryDigits = word->digits + (!isSigned && word->digits == kSignedDouble ? 1 : 0);
     m_pItem->binaryPicture = (isSigned ? "S" : "") + std::string(word->picture);
@@ -262,8 +284,10 @@ void CKTEntryReader::ReadUsageWord() {
 void CKTEntryReader::ReadValue() {
     Skip("IS");
     Skip("ARE");
+    // No word stands between values, so they go on up to the next clause.
     do {
         ItemValue value;
+        // Only the value of a constant may be an expression.
         value.value = m_pItem->level == kConstantLevel ? TakeConstant() : TakeValue();
         if (Skip("THRU") || Skip("THROUGH")) {
             value.through = TakeValue();

@@ -1,5 +1,9 @@
-// An entry as a whole: level, name, the table of clauses, and what they must agree on. The clauses
-// themselves are in EntryClauses.cpp.
+// An entry as a whole: level, name, the table of clauses, and what they must agree on. Clauses may
+// come in any order, so each is found by its first word and read by its own function; then they are
+// checked together. The first fault ends the entry, because what follows misread words would be
+// misread as well. The clauses are in EntryClauses.cpp, the words that they consist of in
+// EntryWords.cpp; what depends on other entries is left to the record.
+
 #include "kcomp/EntryReader.h"
 
 #include <algorithm>
@@ -41,10 +45,12 @@ const CKTEntryReader::Clause* CKTEntryReader::ClauseOf(const TextWord& word) {
         {"VALUES", {"VALUE", &R::ReadValue}},
         {"WHEN", {"FALSE", &R::ReadFalse}},
     };
+    // Spares long words the copy in upper case.
     constexpr std::size_t kLongestKeyword = 20;
     if (word.kind != WordKind::Word || word.text.size() > kLongestKeyword) {
         return nullptr;
     }
+    // The word USAGE itself may be missing.
     if (IsUsageWord(word.text)) {
         static const Clause usage = {"USAGE", &R::ReadUsageWord, true};
         return &usage;
@@ -68,6 +74,7 @@ std::unique_ptr<DataItem> CKTEntryReader::Read() {
 void CKTEntryReader::ReadLevelAndName() {
     const std::string& text = m_Words[0].text;
     m_pItem->place = m_Words[0].place;
+    // A level has two digits at most; more might be no number that fits.
     m_pItem->level = text.size() > 2 ? 0 : std::stoi(text);
     const int level = m_pItem->level;
     const bool known = (level >= 1 && level <= kHighestLevel) || level == kRenamesLevel ||
@@ -79,6 +86,7 @@ void CKTEntryReader::ReadLevelAndName() {
     m_nAt = 1;
     // These begin a clause, but no compiler reserves them, so here they are names.
     const bool soft = IsOneOf({"ATTRIBUTE", "IDENTIFIED", "NAMESPACE"});
+    // Without a name the item is a FILLER.
     if (m_nAt == m_Words.size() || (ClauseOf(m_Words[m_nAt]) != nullptr && !soft)) {
         return;
     }
@@ -98,6 +106,7 @@ void CKTEntryReader::ReadClause() {
         }
         return;
     }
+    // Spellings of one clause share its name, so PIC and PICTURE are the same clause twice.
     if (!clause->name.empty() && !m_Seen.insert(clause->name).second) {
         Fail(TextOf<Message::RepeatedClause>(clause->name));
         return;
@@ -113,6 +122,7 @@ void CKTEntryReader::CheckEntry() {
             return std::find(clauses.begin(), clauses.end(), seen) != clauses.end();
         });
     };
+    // Level 78 says what this clause says.
     const bool constant = m_Seen.contains("CONSTANT");
     if (item.level == kConditionLevel) {
         if (item.name.empty() || item.values.empty() || !only({"VALUE", "FALSE"})) {
@@ -141,12 +151,14 @@ void CKTEntryReader::CheckEntry() {
 void CKTEntryReader::CheckOccurs() {
     const DataItem& item = *m_pItem;
     if (item.maxOccurs.empty()) {
+        // These speak of the occurrences of the item itself.
         if (!item.odo.empty() || m_Seen.contains("INDEXED BY") || m_bKeys) {
             Fail(TextOf<Message::OccursMissing>());
         }
     } else if (item.odo.empty() && !item.minOccurs.empty()) {
         Fail(TextOf<Message::OccursTo>());
     } else if (!item.odo.empty() && item.minOccurs.empty()) {
+        // Without a lower bound the table has at least one occurrence.
         m_pItem->minOccurs = "1";
     }
 }

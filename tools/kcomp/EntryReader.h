@@ -19,7 +19,8 @@ using Constants = std::unordered_map<std::string, std::string>;
 /// The data items of a program by their names in upper case.
 using ItemsByName = std::unordered_multimap<std::string, DataItem*>;
 
-/// What all entries of a program are read with.
+/// What all entries of a program are read with: what is complained of goes to `report`, and what
+/// later entries may refer to stands in the rest.
 struct ReadingContext {
     CKTReport& report;
     Constants constants;
@@ -28,7 +29,8 @@ struct ReadingContext {
     bool inStorage = false;  ///< whether the entry surely stands in the WORKING-STORAGE SECTION
 };
 
-/// Reads the clauses of one data description entry.
+/// Reads the clauses of one data description entry. Made anew for each; the words and the context
+/// must outlive it. It neither knows nor asks for the entries around this one.
 class CKTEntryReader {
 public:
     /// `words` is the entry without its period; the first word is the level number.
@@ -39,6 +41,7 @@ public:
     /// constant has the level 78 or the clause CONSTANT, and its value.
     std::unique_ptr<DataItem> Read();
 
+    /// Whether there was a complaint. Then the rest of the entry was not read.
     [[nodiscard]] bool Failed() const { return m_bFailed; }
 
     /// The number of words that were read. Less than all when a level number stands inside the
@@ -53,11 +56,14 @@ private:
         bool takesKeyword = false;  // the keyword says which of several things is meant
     };
 
+    /// The clause that begins with the word; null when none does.
     static const Clause* ClauseOf(const TextWord& word);
     static bool IsUsageWord(std::string_view word);
 
     void ReadLevelAndName();
     void ReadClause();
+    /// Handlers of clauses. The word behind the keyword or, where the clause takes it, the keyword
+    /// is the current one.
     void ReadAttribute();
     void ReadBlank();
     void ReadConstant();
@@ -81,12 +87,16 @@ private:
     void ReadUsage();
     void ReadUsageWord();
     void ReadValue();
+    /// Complain of clauses that do not go together.
     void CheckEntry();
     void CheckOccurs();
 
     [[nodiscard]] bool Is(std::string_view word) const;
     [[nodiscard]] bool IsOneOf(std::initializer_list<std::string_view> words) const;
+    /// Goes past the word if it is the current one, and says whether it was.
     bool Skip(std::string_view word);
+    /// Each returns what it took as the dictionary holds it; after a complaint the text is of
+    /// no use.
     std::string TakeName();
     std::string TakeQualifiedName();
     std::string TakeNames();
@@ -107,6 +117,7 @@ private:
     std::unique_ptr<DataItem> m_pItem;
     std::size_t m_nAt = 0;
     std::size_t m_nPiece = 0;  // where the next number begins in a word such as 1,2,3
+    // By their names in messages.
     std::set<std::string_view> m_Seen;
     bool m_bKeys = false;
     bool m_bFailed = false;

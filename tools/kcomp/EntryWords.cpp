@@ -1,4 +1,8 @@
-// The names, numbers and values that clauses consist of.
+// The names, numbers and values that clauses consist of. Each function takes what it wants and goes
+// on behind it, or complains, which ends the entry: a clause need not ask after each word whether
+// to go on. Names of constants are replaced by their values here. Whether a value fits its item is
+// not asked.
+
 #include <algorithm>
 #include <array>
 
@@ -8,6 +12,7 @@
 
 namespace {
 
+// Any such number fits 32 bits.
 constexpr std::size_t kMostIntegerDigits = 9;
 
 constexpr std::array<std::string_view, 13> kFigurativeConstants = {
@@ -19,6 +24,7 @@ bool IsFigurative(std::string_view word) {
            kFigurativeConstants.end();
 }
 
+/// Letters of any alphabet, digits, underscores, and hyphens inside; not digits alone.
 bool IsName(std::string_view text) {
     const auto fits = [](char c) {
         return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') ||
@@ -28,6 +34,7 @@ bool IsName(std::string_view text) {
            !text.starts_with('-') && !text.ends_with('-');
 }
 
+/// Fixed or floating point, with or without a sign.
 bool IsNumber(std::string_view text, char point) {
     if (text.starts_with('+') || text.starts_with('-')) {
         text.remove_prefix(1);
@@ -52,6 +59,7 @@ std::string WithDoubleMarks(std::string_view literal) {
     text.back() = '"';
     for (std::size_t i = quote + 1; i + 1 < literal.size(); ++i) {
         const char c = literal[i];
+        // Doubled for the marks that are put around; what was doubled for the old ones is one.
         text.append(c == '"' && mark != '"' ? 2 : 1, c);
         i += c == mark && mark != '"' ? 1 : 0;
     }
@@ -94,6 +102,7 @@ std::string CKTEntryReader::TakeInteger() {
         const std::string& word = m_Words[m_nAt].text;
         const std::string* constant = ConstantOf(word);
         const std::string number = constant == nullptr ? word : *constant;
+        // The last digit stays, whatever it is.
         const std::size_t first = std::min(number.find_first_not_of('0'), number.size() - 1);
         if (IsDigits(number) && number.size() - first <= kMostIntegerDigits) {
             ++m_nAt;
@@ -124,6 +133,7 @@ std::string CKTEntryReader::TakeValue() {
     while (Skip("&")) {
         const bool literal = m_nAt < m_Words.size() && m_Words[m_nAt].kind == WordKind::Literal;
         const std::string next = literal ? WithDoubleMarks(m_Words[m_nAt].text) : "";
+        // A prefix such as X says how to read what follows, which does not go on behind it.
         if (!next.starts_with('"') || !value.starts_with('"')) {
             Fail(TextOf<Message::JoinedLiterals>());
             return {};
@@ -139,6 +149,7 @@ std::string CKTEntryReader::TakeConstant() {
     const std::size_t start = m_nAt;
     if (!IsPartOfExpression(m_Words, m_nAt)) {
         std::string value = TakeValue();
+        // Whether a value stands alone is seen behind it; if not, all is read anew.
         if (m_bFailed || !IsPartOfExpression(m_Words, m_nAt)) {
             return value;
         }
@@ -168,6 +179,7 @@ std::string CKTEntryReader::TakeWordValue() {
         FailBecauseOfWord();
         return {};
     }
+    // The word is done with its last piece.
     m_nPiece = comma == std::string::npos ? 0 : comma + 1;
     m_nAt += comma == std::string::npos ? 1 : 0;
     return constant == nullptr ? text : *constant;

@@ -1,4 +1,9 @@
-// What the clauses of an item mean together with those of the groups above it.
+// What the clauses of an item mean together with those of the groups above it. One walk down a
+// complete record: each item gets its place and what it inherits, then its size, a group when all
+// below it have theirs. The levels bound the recursion. A fault is complained of at the item where
+// it shows, and the walk goes on. How pictures are read and what sizes systems give stands in
+// Picture.cpp and ItemSize.cpp.
+
 #include <algorithm>
 
 #include "kcomp/ItemSize.h"
@@ -40,6 +45,7 @@ bool IsBinaryOrPacked(Usage usage) {
 
 /// The digits of the largest number that so many bytes hold.
 std::size_t DigitsOfBytes(std::size_t bytes) {
+    // 0.30103 is the decimal logarithm of 2.
     return bytes * 8 * 30103 / 100000 + 1;
 }
 
@@ -70,11 +76,13 @@ private:
         }
         std::size_t end = group.offset;
         for (const auto& child : group.children) {
+            // Condition-names and level 66 have no storage of their own.
             if (child->level > kHighestLevel) {
                 continue;
             }
             const std::size_t begin = child->redefined == nullptr ? end : child->redefined->offset;
             Describe(*child, clauses, begin);
+            // A redefinition that is shorter than what it redefines takes nothing back.
             end = std::max(end, begin + child->storage);
             group.least += child->redefined == nullptr ? child->least : 0;
             group.most += child->redefined == nullptr ? child->most : 0;
@@ -116,6 +124,7 @@ private:
     }
 
     bool ReadItemPicture(DataItem& item, const Inherited& clauses) {
+        // A binary type comes with the PICTURE that stands for its size.
         if (item.picture.empty()) {
             item.picture = clauses.binaryPicture;
         }
@@ -125,6 +134,7 @@ private:
             return false;
         }
         item.category = item.description.category;
+        // PICTURE X gives the bytes of a COMP-X number instead of its digits.
         if (item.usage == Usage::CompX && item.category == Category::Alphanumeric &&
             item.description.length <= kMostBytes) {
             item.category = Category::Numeric;
@@ -139,9 +149,11 @@ private:
     bool UsageFits(DataItem& item) {
         const bool numeric = item.category == Category::Numeric;
         const bool national = item.category == Category::National;
+        // PICTURE N means this usage by itself.
         if (national && item.usage == Usage::Display) {
             item.usage = Usage::National;
         }
+        // COMP-6 is the one numeric usage without room for a sign.
         const bool fits =
             (numeric && !(item.usage == Usage::Comp6 && item.description.isSigned)) ||
             (national && item.usage == Usage::National) ||
@@ -163,6 +175,7 @@ private:
         if (!item.blankWhenZero) {
             return true;
         }
+        // An asterisk fills the item where the clause would clear it.
         if (text || item.description.isSigned || IsBinaryOrPacked(item.usage) ||
             item.picture.find('*') != std::string::npos) {
             Complain<Message::ItemBlank>(item);

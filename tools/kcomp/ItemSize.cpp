@@ -1,4 +1,9 @@
-// How many bytes items take up. Where systems differ, the size is that of a common 64-bit one.
+// How many bytes items take up. Where systems differ, the size is that of a common 64-bit one,
+// beside the least and the most that others give. An item whose record is still being read is
+// measured from its clauses so far; its groups remember how far they were counted, so that asking
+// again stays cheap. Sizes are cut off at the largest that an int holds. Clauses that disagree are
+// not noticed here.
+
 #include "kcomp/ItemSize.h"
 
 #include <algorithm>
@@ -19,6 +24,7 @@ constexpr std::size_t kMostSlack = 7;     // before a synchronized item
 
 /// The bytes that numbers of so many digits need in binary.
 std::size_t CompactSize(std::size_t digits, bool isSigned) {
+    // A decimal digit needs 3.322 bits.
     const std::size_t bits = digits * 3322 / 1000 + 1 + (isSigned ? 1 : 0);
     return (bits + 7) / 8;
 }
@@ -27,6 +33,7 @@ std::size_t BinarySize(std::size_t digits) {
     constexpr std::size_t kHalfWord = 4;
     constexpr std::size_t kWord = 9;
     constexpr std::size_t kDoubleWord = 18;
+    // The machine word that holds so many digits, two bytes at least; or two of the largest.
     if (digits <= kHalfWord) {
         return 2;
     }
@@ -37,6 +44,7 @@ std::size_t BinarySize(std::size_t digits) {
 }
 
 std::size_t TimesOf(const DataItem& item) {
+    // A table without bounds counts once.
     return IsDigits(item.maxOccurs) ? std::stoul(item.maxOccurs) : 1;
 }
 
@@ -48,6 +56,7 @@ std::size_t SizeSoFar(const DataItem& item, const ReadingContext& context) {
         path.push_back(at);
     }
     Inherited clauses;
+    // From the record downwards, because the nearest clause counts.
     std::for_each(path.rbegin(), path.rend(),
                   [&clauses](const DataItem* at) { clauses.Meet(*at); });
     DataItem probe;
@@ -80,6 +89,7 @@ std::size_t SizeOf(const DataItem& item) {
         case Usage::Comp2:
             return 8;
         case Usage::Comp3:
+            // Half a byte for each digit and for the sign.
             return item.description.length / 2 + 1;
         case Usage::Comp4:
         case Usage::Comp5:
@@ -101,6 +111,7 @@ std::size_t SizeOf(const DataItem& item) {
         default:
             break;
     }
+    // Any other sign shares the byte of a digit.
     const bool separate =
         item.sign == SignPosition::LeadingSeparate || item.sign == SignPosition::TrailingSeparate;
     return item.description.length + (separate ? 1 : 0);
@@ -112,6 +123,7 @@ std::size_t LeastSizeOf(const DataItem& item) {
         return kLeastAddress;
     }
     const Picture& picture = item.description;
+    // Some systems use no more bytes than the digits need, other than for the types with a size.
     const bool binary = IsBinary(item.usage) && item.binaryDigits == 0;
     return binary ? std::min(size, CompactSize(picture.length, picture.isSigned)) : size;
 }
@@ -124,6 +136,7 @@ std::size_t MostSizeOf(const DataItem& item) {
 }
 
 std::size_t OfAll(std::size_t size, const DataItem& item) {
+    // Cut off before as well, so that the product fits 64 bits.
     return std::min(std::min(size, kLargest) * TimesOf(item), kLargest);
 }
 
@@ -142,6 +155,7 @@ std::size_t StorageOf(DataItem& item, const ReadingContext& context) {
             child.offset = child.redefined == nullptr ? item.placedEnd : child.redefined->offset;
             end = std::max(item.placedEnd, child.offset + StorageOf(child, context));
         }
+        // The last one may grow, so it is counted anew each time.
         if (&child == item.children.back().get()) {
             break;
         }

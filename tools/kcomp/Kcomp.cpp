@@ -1,5 +1,9 @@
 // kcomp: reads the data descriptions of a COBOL source and writes its data dictionary, where the
-// compiler is not at hand. It checks what it reads and compiles nothing.
+// compiler is not at hand. It checks what it reads and compiles nothing. The source becomes words
+// with all copy files in place, the words become programs with their records, and those become the
+// dictionary. It is written if it is asked for and nothing is wrong; the exit status tells the
+// latter.
+
 #include <unistd.h>
 
 #include <algorithm>
@@ -58,6 +62,7 @@ bool ReadDirectives(const std::string& name, std::optional<SourceFormat>& format
                     CKTReport& report) {
     std::error_code ignored;
     std::ifstream file;
+    // Opening a pipe would wait for a writer.
     if (std::filesystem::is_regular_file(name, ignored)) {
         file.open(name);
     }
@@ -70,6 +75,7 @@ bool ReadDirectives(const std::string& name, std::optional<SourceFormat>& format
         if (upper.find("SOURCEFORMAT") == std::string::npos) {
             continue;
         }
+        // A directive file holds directives of all kinds, and the last of this kind counts.
         if (upper.find("FREE") != std::string::npos) {
             format = SourceFormat::Free;
         } else if (upper.find("FIXED") != std::string::npos) {
@@ -114,6 +120,7 @@ void Run(const Arguments& arguments, CKTReport& report) {
     }
     const std::string stem = StemOf(arguments.source);
     const std::string dictionary = stem + ".xml";
+    // Writing the dictionary would destroy the source.
     if (dictionary == arguments.source) {
         report.Error({report.KeepName(arguments.source), 1}, TextOf<Message::SourceIsDictionary>());
         return;
@@ -135,6 +142,7 @@ void Run(const Arguments& arguments, CKTReport& report) {
     const std::deque<ProgramData> programs = reader.Read();
     if (report.Errors() == 0 && arguments.wantsDictionary) {
         WriteDictionary(dictionary, DictionaryOf(programs), report);
+        // Nothing is left out of what could not be written.
         if (report.Errors() == 0) {
             NoteWhatIsLeftOut(programs, report);
         }
@@ -146,8 +154,10 @@ void Run(const Arguments& arguments, CKTReport& report) {
 int main(int argc, char** argv) {
     CKTReport report(std::cout);
     try {
+        // A caller may leave out even the name of the program.
         Run(ReadArguments({argv + std::min(argc, 1), argv + argc}), report);
     } catch (const std::exception& e) {
+        // Whatever the library throws, for want of memory above all, is an error like others.
         report.Error({}, TextOf<Message::Fault>(e.what()));
     }
     std::cout.flush();

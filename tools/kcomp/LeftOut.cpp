@@ -1,5 +1,8 @@
 // What a schema and a copybook made from the dictionary have no place for: clauses that the
-// dictionary passes on as they are, and comments, which it does not hold at all.
+// dictionary passes on as they are, and comments, which it does not hold at all. One walk over all
+// items keeps the first place of each kind, so that no source gives more notes than there are
+// kinds.
+
 #include "kcomp/LeftOut.h"
 
 #include <algorithm>
@@ -16,6 +19,7 @@ struct Clause {
 
 constexpr std::string_view kValueAttribute = "value";
 
+// In the order of the notes.
 constexpr std::array<Clause, 13> kClauses = {{
     {kValueAttribute, "VALUE"},
     {"indexedBy", "INDEXED BY"},

@@ -1,3 +1,6 @@
+// Fills the places of a message from left to right. What stands in the braces tells a reader of the
+// table what comes there and is dropped; that the values are as many is checked at compile time.
+
 #include "kcomp/Messages.h"
 
 CKTMessageText CKTMessageText::Fill(std::string_view text,

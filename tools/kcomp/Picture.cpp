@@ -1,5 +1,8 @@
 // Reads a PICTURE into runs of equal symbols and asks, from the narrowest to the widest, which
-// category they fit.
+// category they fit. The symbols of the runs, one each, are the shape of the picture: most rules
+// compare shapes, the others count symbols. Counts stop just above the largest size, so that sums
+// of them cannot overflow. Whether the picture goes with the usage is left to ItemDescription.cpp.
+
 #include "kcomp/Picture.h"
 
 #include <algorithm>
@@ -33,12 +36,14 @@ std::optional<std::size_t> TakeCount(std::string_view& text) {
         return std::nullopt;
     }
     for (const char c : number) {
+        // What is too long anyway need not be exact.
         count = std::min(count * 10 + static_cast<std::size_t>(c - '0'), kLongest + 1);
     }
     text.remove_prefix(end + 1);
     return count;
 }
 
+/// DECIMAL-POINT IS COMMA has the two change places.
 char SymbolOf(char c, const PictureSymbols& symbols) {
     if (symbols.decimalComma && (c == '.' || c == ',')) {
         return c == '.' ? ',' : '.';
@@ -52,6 +57,7 @@ std::optional<std::vector<Run>> RunsOf(std::string_view text, const PictureSymbo
     std::vector<Run> runs;
     const auto add = [&runs](char symbol, std::size_t count) {
         const bool goesOn = !runs.empty() && runs.back().symbol == symbol;
+        // A count of zero stays a run of its own, where it is found and complained of.
         if (goesOn && count > 0 && runs.back().count > 0) {
             runs.back().count = std::min(runs.back().count + count, kLongest + 1);
         } else {
@@ -64,6 +70,7 @@ std::optional<std::vector<Run>> RunsOf(std::string_view text, const PictureSymbo
         const bool sign = rest.starts_with("CR") || rest.starts_with("DB");
         char symbol = rest.front();
         rest.remove_prefix(sign ? 2 : 1);
+        // The dollar sign stands for the currency sign only as long as no other is chosen.
         if (symbol == currency.front()) {
             symbol = '$';
         } else if (sign) {
@@ -117,6 +124,7 @@ private:
     bool ReadNumeric() {
         constexpr std::array<std::string_view, 8> shapes = {"9",  "9V",  "9V9", "V9",
                                                             "9P", "9PV", "P9",  "VP9"};
+        // A shape does not show how long its runs are, so VV looks like V and is counted below.
         std::string shape = Shape();
         m_Picture.isSigned = shape.starts_with('S') && m_Runs.front().count == 1;
         shape.erase(0, m_Picture.isSigned ? 1 : 0);
@@ -124,6 +132,7 @@ private:
             return false;
         }
         m_Picture.category = Category::Numeric;
+        // The digits of P count but are not stored.
         m_Picture.digits = Count("9P");
         m_Picture.length = Count("9");
         if (shape.starts_with('P') || shape.starts_with('V')) {
@@ -135,6 +144,7 @@ private:
     }
 
     bool ReadText() {
+        // These are put in between; a 9 among letters is a character like any other.
         const bool edited = Count("B0/") > 0;
         if (Count("N") > 0 && HoldsOnly("NB0/")) {
             m_Picture.category = Category::National;
@@ -149,6 +159,7 @@ private:
 
     bool ReadNumericEdited() {
         const std::string shape = Shape();
+        // One point, one sign, and one way to fill what is suppressed.
         const bool symbolsFit =
             HoldsOnly("9ZVPB0/,.+-*$CD") && Count("ZB0/,.+-*$CD") > 0 && Count("V.") <= 1 &&
             Count("CD") <= 1 && !(Count("Z") > 0 && Count("*") > 0) &&
@@ -156,6 +167,7 @@ private:
         const std::size_t suppressed = shape.find_last_of("Z*");
         const bool ordered =
             suppressed == std::string::npos || suppressed < std::min(shape.find('9'), shape.size());
+        // Without a position for a digit there is nothing to edit.
         const std::size_t positions = Count("9Z*") + Floating('+') + Floating('-') + Floating('$');
         if (!symbolsFit || !ordered || positions == 0 || !SignsFit(shape) || !ScalingFits(shape)) {
             return false;
@@ -186,12 +198,14 @@ private:
     }
 
     [[nodiscard]] static bool ScalingFits(const std::string& shape) {
+        // In an edited picture P is taken at the right end only.
         const std::size_t scaling = shape.find('P');
         return scaling == std::string::npos || scaling == shape.size() - 1;
     }
 
     /// Digit positions of a floating string: all but its first symbol.
     [[nodiscard]] std::size_t Floating(char symbol) const {
+        // The first one never holds a digit.
         const std::size_t count = Count(std::string_view(&symbol, 1));
         return count > 1 ? count - 1 : 0;
     }
@@ -228,6 +242,7 @@ private:
 Picture ReadPicture(std::string_view text, const PictureSymbols& symbols) {
     Picture failed;
     const auto runs = RunsOf(text, symbols);
+    // The plainest fault first: a count means nothing among symbols that are none.
     if (!runs || runs->empty()) {
         failed.fault = TextOf<Message::PictureSymbol>(Quoted(text));
         return failed;

@@ -21,6 +21,7 @@ struct PictureSymbols {
     bool decimalComma = false;
 };
 
+/// What a PICTURE says about its item.
 struct Picture {
     Category category = Category::Alphanumeric;
     bool isSigned = false;     ///< holds the symbol S
@@ -30,7 +31,9 @@ struct Picture {
     CKTMessageText fault;      ///< the complaint when the text is no PICTURE; the rest is then void
 };
 
-/// Reads a PICTURE character-string; counts in parentheses are numbers.
+/// Reads a PICTURE character-string, in which `symbols` says what stands for the currency sign and
+/// the decimal point; counts in parentheses are numbers. Reports nothing: what is no PICTURE comes
+/// back with a fault, whose place the caller knows.
 Picture ReadPicture(std::string_view text, const PictureSymbols& symbols);
 
 #endif

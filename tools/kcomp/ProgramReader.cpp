@@ -1,3 +1,10 @@
+// One pass over the words that keeps the place it is in. Headers of divisions, sections and
+// programs are asked for first and change the place wherever they stand, so that the pass finds its
+// way after a fault. In the two sections whose records are wanted, entries are cut off at their
+// periods and go to the entry reader, and the items to the record builder of their area; anything
+// else is passed over. A source that begins like a copybook is read as if its section header stood
+// before it. The end of an entry is looked for once, so the time grows with the words.
+
 #include "kcomp/ProgramReader.h"
 
 #include <algorithm>
@@ -50,6 +57,7 @@ std::deque<ProgramData> CKTProgramReader::Read() {
     const auto first = std::find_if_not(m_Words.begin(), m_Words.end(), SaysNothingOfData);
     if (first != m_Words.end()) {
         const bool file = IsWord(*first, "FD") || IsWord(*first, "SD");
+        // What EXEC or a fault hides may be data descriptions, so these count as well.
         m_bBare =
             file || IsLevel(*first) || IsWord(*first, "EXEC") || first->kind == WordKind::Fault;
         m_Place = m_bBare ? (file ? Place::FileSection : Place::WorkingStorage) : m_Place;
@@ -65,6 +73,7 @@ std::deque<ProgramData> CKTProgramReader::Read() {
         }
     }
     EndArea();
+    // After another complaint this one would say nothing new.
     if (m_Programs.empty() && m_Context.report.Errors() == 0) {
         m_Context.report.Error(m_Start, TextOf<Message::NoData>());
     }
@@ -124,6 +133,7 @@ void CKTProgramReader::TakeDivision() {
     } else if (Is(m_nAt, "DATA")) {
         m_Place = Place::DataDivision;
     }
+    // With a header the source is no bare copybook, whatever stood before it.
     m_bBare = false;
     m_nAt += IsPeriod(m_nAt + 2) ? 3 : 2;
 }
@@ -138,6 +148,7 @@ void CKTProgramReader::TakeSection() {
             m_Context.report.Error(m_Words[m_nAt].place, TextOf<Message::SectionWithoutPeriod>());
         }
     } else if (InData() || m_Place == Place::DataDivision) {
+        // A misspelled header would lose all data below it without a word.
         if (!IsWordOf(kOtherSections, m_Words[m_nAt])) {
             m_Context.report.Error(m_Words[m_nAt].place,
                                    TextOf<Message::UnknownSection>(ShownWord(m_Words[m_nAt])));
@@ -160,6 +171,7 @@ void CKTProgramReader::TakeProgramName() {
     } else if (m_nAt < m_Words.size() && m_Words[m_nAt].kind == WordKind::Word) {
         name = m_Words[m_nAt].text;
     }
+    // A program without data is one of the dictionary, too.
     m_Programs.push_back({std::move(name), {}, {}});
     // A contained program goes by the special names and constants of the one around it.
     if (m_nNesting++ == 0) {
@@ -173,6 +185,7 @@ void CKTProgramReader::TakeEndProgram() {
     EndArea();
     m_Place = Place::Elsewhere;
     m_nNesting -= m_nNesting > 0 ? 1 : 0;
+    // The name behind it is passed over like all that stands outside data.
     m_nAt += 2;
 }
 
@@ -194,6 +207,7 @@ void CKTProgramReader::TakeOutside() {
 
 // DECIMAL-POINT IS COMMA; CURRENCY SIGN IS literal [WITH PICTURE SYMBOL literal]
 void CKTProgramReader::TakeSpecialName() {
+    // The words mean this in the ENVIRONMENT DIVISION only.
     const bool environment = m_Place == Place::Environment;
     const bool point = environment && Is(m_nAt, "DECIMAL-POINT");
     const bool currency = environment && (Is(m_nAt, "CURRENCY") || Is(m_nAt, "SYMBOL"));
@@ -204,6 +218,7 @@ void CKTProgramReader::TakeSpecialName() {
         m_Context.symbols.decimalComma = true;
     } else if (currency && m_nAt < m_Words.size() && m_Words[m_nAt].kind == WordKind::Literal &&
                m_Words[m_nAt].text.size() == 3) {
+        // A currency sign is a single character here; the literal is that and its marks.
         m_Context.symbols.currency = m_Words[m_nAt].text[1];
     }
 }
@@ -214,6 +229,7 @@ void CKTProgramReader::TakeEntry() {
         m_Context.report.Error(word.place, ComplaintOf(word));
         ++m_nAt;
         if (m_Builder) {
+            // Items may be missing, so nothing is said about what would depend on them.
             m_Builder->MarkDamaged();
         }
     } else if (word.kind == WordKind::Period || IsListingWord(word)) {
@@ -241,6 +257,7 @@ void CKTProgramReader::TakeUnsupported() {
     const bool alone = m_nAt + 1 == m_Words.size();
     m_Context.report.Error(word.place,
                            alone ? TextOf<Message::Exec>() : TextOf<Message::ExecOf>(text));
+    // What is embedded has its own grammar, in which a period may end nothing.
     while (m_nAt < m_Words.size() && !Is(m_nAt, "END-EXEC")) {
         ++m_nAt;
     }
@@ -254,6 +271,7 @@ void CKTProgramReader::TakeFile() {
     if (!named) {
         m_Context.report.Error(word.place, TextOf<Message::FileWithoutName>(ShownWord(word)));
     }
+    // Without a name too: its records have to stand somewhere.
     BeginArea(true, named ? m_Words[m_nAt + 1].text : "");
     const std::size_t end = EndOfEntry();
     for (std::size_t at = m_nAt + 1; at < end; ++at) {
@@ -288,8 +306,10 @@ void CKTProgramReader::TakeDataEntry() {
     const std::size_t end = EndOfEntry();
     if (m_Replace.line > 0) {
         report.Error(m_Replace, TextOf<Message::Replace>());
+        // One complaint is enough for all that follows.
         m_Replace = {};
     }
+    // A section without entries makes no area.
     if (!m_Builder) {
         const bool file = m_Place == Place::FileSection;
         if (file) {
@@ -298,6 +318,7 @@ void CKTProgramReader::TakeDataEntry() {
         BeginArea(file, "");
     }
     NoteComment(end);
+    // A bare copybook may be copied into any section.
     m_Context.inStorage = m_Place == Place::WorkingStorage && !m_bBare;
     CKTEntryReader reader(std::span<TextWord>(m_Words).subspan(m_nAt, end - m_nAt), m_Context);
     std::unique_ptr<DataItem> item = reader.Read();
@@ -313,6 +334,7 @@ void CKTProgramReader::TakeDataEntry() {
         }
         m_Builder->Add(std::move(item));
     }
+    // Short of the end, another entry begins where the reader stopped.
     if (m_nAt == end) {
         SkipPast(end);
     }
@@ -340,6 +362,7 @@ void CKTProgramReader::EndArea() {
 
 /// The program whose data comes now.
 ProgramData& CKTProgramReader::Program() {
+    // Only a program that names itself has been noted by then.
     if (m_Programs.empty()) {
         m_Programs.push_back({m_sName, {}, {}});
     }

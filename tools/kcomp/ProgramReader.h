@@ -13,7 +13,8 @@
 #include "kcomp/TextWords.h"
 
 /// Finds the data descriptions of a source: those of the WORKING-STORAGE SECTION and the FILE
-/// SECTION of each program, or those that a bare copybook consists of.
+/// SECTION of each program, or those that a bare copybook consists of. Other sections are passed
+/// over, and so is the PROCEDURE DIVISION with whatever is wrong in it.
 class CKTProgramReader {
 public:
     /// `words` is the whole source, copies included, and `start` its first line. `name` is the name
@@ -26,8 +27,11 @@ public:
     std::deque<ProgramData> Read();
 
 private:
+    /// Where the words at hand stand.
     enum class Place { Elsewhere, Environment, DataDivision, WorkingStorage, FileSection };
 
+    /// These take what stands at the current word and go on behind it; those that answer say
+    /// whether there was anything of their kind.
     bool TakeHeader();
     void TakeReplace();
     bool TakeDeclareSection();
@@ -40,12 +44,15 @@ private:
     void TakeEntry();
     void TakeFile();
     void TakeDataEntry();
+    /// Keeps the place of the first comment up to `end`, if the program has none yet.
     void NoteComment(std::size_t end);
     void TakeUnsupported();
+    /// An area gets entries until the next one begins or its section ends.
     void BeginArea(bool isFile, std::string name);
     void EndArea();
     ProgramData& Program();
 
+    /// Questions about the word at `at`, which may lie behind the last one.
     [[nodiscard]] bool Is(std::size_t at, std::string_view word) const;
     [[nodiscard]] bool IsPeriod(std::size_t at) const;
     [[nodiscard]] bool IsDivision(std::size_t at) const;
@@ -62,6 +69,7 @@ private:
     std::optional<CKTRecordBuilder> m_Builder;
     SourcePlace m_Start;
     SourcePlace m_Replace;  // of the REPLACE statement that changes what comes
+    // All indices are those of the words.
     std::size_t m_nAt = 0;
     std::size_t m_nEnd = 0;      // where the entry ends, once it was looked for
     std::size_t m_nNesting = 0;  // programs that are open

@@ -1,3 +1,10 @@
+// The items that are open stand on a stack, each with the names below it: an entry closes those of
+// its own level and of higher numbers, and stands below the one that is left. Condition-names go to
+// the item before them, RENAMES to the record. A record is completed when the next one begins or
+// the area ends; while items are missing from it, nothing is said about what depends on them. Below
+// an item that could not be read everything is passed over. What clauses mean and how large items
+// are stands in ItemDescription.cpp.
+
 #include "kcomp/RecordBuilder.h"
 
 #include <algorithm>
@@ -27,6 +34,7 @@ bool IsBelow(const DataItem* item, std::span<const std::string> groups) {
     std::size_t met = 0;
     for (const DataItem* group = item->parent; group != nullptr && met < groups.size();
          group = group->parent) {
+        // Groups in between need not be named.
         met += SameWord(group->name, groups[met]) ? 1 : 0;
     }
     return met == groups.size();
@@ -46,6 +54,7 @@ void CKTRecordBuilder::Add(std::unique_ptr<DataItem> item) {
 
 void CKTRecordBuilder::Skip(std::unique_ptr<DataItem> item) {
     const int level = item->level;
+    // Below an item that was skipped itself, even the name is of no use.
     if (level >= 1 && level <= kHighestLevel && level <= m_nSkipped) {
         Add(std::move(item));
         m_nSkipped = level;
@@ -58,7 +67,9 @@ void CKTRecordBuilder::AddData(std::unique_ptr<DataItem> item) {
     if (!lone && item->level > m_nSkipped) {
         return;
     }
+    // An item of this level closes what was skipped.
     m_nSkipped = kNothingSkipped;
+    // Level 77 stands for itself, whatever its number.
     while (!m_Open.empty() && (lone || m_Open.back().item->level >= item->level)) {
         m_Open.pop_back();
     }
@@ -81,6 +92,7 @@ void CKTRecordBuilder::AddData(std::unique_ptr<DataItem> item) {
     if (!added->name.empty()) {
         m_Context.items.emplace(ToUpper(added->name), added);
     }
+    // Nothing can stand below level 77.
     if (!lone) {
         m_Open.push_back({added, {}});
     }
@@ -96,6 +108,7 @@ void CKTRecordBuilder::CheckLevel(const DataItem& item, DataItem& parent) {
 }
 
 void CKTRecordBuilder::BeginRecord(std::unique_ptr<DataItem> item) {
+    // RENAMES ends a record in a bare copybook as well, so a level behind it has lost its group.
     if (item->level > 1 && item->level != kLoneLevel && (!m_bBare || !m_Renames.empty())) {
         m_Context.report.Error(item->place, TextOf<Message::NoRecord>(ShownName(*item)));
     }
@@ -109,6 +122,7 @@ void CKTRecordBuilder::BeginRecord(std::unique_ptr<DataItem> item) {
 }
 
 void CKTRecordBuilder::AddCondition(std::unique_ptr<DataItem> item) {
+    // It may belong to what was left out.
     if (m_nSkipped != kNothingSkipped) {
         return;
     }
@@ -131,12 +145,14 @@ void CKTRecordBuilder::AddConstant(std::unique_ptr<DataItem> item) {
 
 void CKTRecordBuilder::AddRenames(std::unique_ptr<DataItem> item) {
     if (m_pRecord == nullptr || !m_pRecord->isGroup) {
+        // The record may have been there but for a fault.
         if (!m_bDamaged) {
             m_Context.report.Error(item->place,
                                    TextOf<Message::RenamesOfNothing>(ShownName(*item)));
         }
         return;
     }
+    // Behind it no item of the record may come.
     m_Open.clear();
     m_nSkipped = kNothingSkipped;
     item->parent = m_pRecord;
@@ -157,11 +173,13 @@ void CKTRecordBuilder::CheckRedefines(DataItem& item, Names& names) {
             item.redefined = object->redefined == nullptr ? object : object->redefined;
         }
     }
+    // The last item of a name is the one that a later clause means.
     names.insert_or_assign(ToUpper(item.name), &item);
 }
 
 void CKTRecordBuilder::Finish() {
     if (m_pRecord != nullptr && !m_bDamaged) {
+        // RENAMES needs the sizes and places of a record without faults.
         const std::size_t errors = m_Context.report.Errors();
         DescribeItem(*m_pRecord, m_Context);
         for (DataItem* renames : m_Renames) {
@@ -188,6 +206,8 @@ void CKTRecordBuilder::IndexItems() {
             }
             const std::string name = ToUpper(child->name);
             m_ItemsOfRecord.emplace(name, child.get());
+            // With each group as well, so that a name of many groups is found without trying them
+            // all. There are no more groups than levels.
             for (const DataItem* group = item; group != nullptr; group = group->parent) {
                 m_ItemsOfRecord.emplace(name + std::string(kOf) + ToUpper(group->name),
                                         child.get());
@@ -211,6 +231,7 @@ DataItem* CKTRecordBuilder::FindRenamed(const DataItem& item, const std::string&
         at = std::min(end, qualifiedName.size());
     }
     DataItem* found = nullptr;
+    // By name and first qualifier; further ones are asked one by one.
     const auto range = m_ItemsOfRecord.equal_range(ToUpper(qualifiedName.substr(0, second)));
     for (auto candidate = range.first; candidate != range.second; ++candidate) {
         if (!IsBelow(candidate->second, groups)) {

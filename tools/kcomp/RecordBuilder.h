@@ -10,11 +10,15 @@
 #include "kcomp/DataItem.h"
 #include "kcomp/EntryReader.h"
 
-/// Builds the records of one area from its entries, in the order of the source.
+/// Builds the records of one area from its entries, in the order of the source. The area owns the
+/// items from the moment they are added; what finds no place, or only below a skipped item, is
+/// dropped.
 class CKTRecordBuilder {
 public:
     /// Finished records go into `area`. In a bare copybook (`bare`) a record may begin at any
-    /// level, because the program that copies it may stand above it.
+    /// level, because the program that copies it may stand above it. What is complained of goes to
+    /// the report of `context`, which also learns the names of the items. All of it must outlive
+    /// the builder.
     CKTRecordBuilder(RecordArea& area, bool bare, ReadingContext& context)
         : m_Area(area), m_bBare(bare), m_Context(context) {}
 
@@ -70,7 +74,8 @@ private:
 /// The name of the item as messages show it: between quotation marks, FILLER without one.
 std::string ShownName(const DataItem& item);
 
-/// Whether the item stands under groups of these names, given from the innermost on.
+/// Whether the item stands under groups of these names, given from the innermost on. Others may
+/// stand between them.
 bool IsBelow(const DataItem* item, std::span<const std::string> groups);
 
 /// Completes an item and all below it: usage and sign that they inherit, category, sizes and

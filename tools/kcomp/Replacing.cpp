@@ -1,3 +1,8 @@
+// One pass over the words. At each word the pairs are tried in their order, the first that fits is
+// put in, and the pass goes on behind what it replaced. What was put in is never looked at, so the
+// pass ends even when a pair holds the text that it looks for. Pieces of a word that a mark kept
+// apart are joined while the result grows. Reading the phrase is left to the source reader.
+
 #include "kcomp/Replacing.h"
 
 #include <algorithm>
@@ -7,6 +12,7 @@
 namespace {
 
 bool SameText(const TextWord& a, const TextWord& b) {
+    // The case of letters counts within a literal only.
     return a.kind == b.kind &&
            (a.kind == WordKind::Literal ? a.text == b.text : SameWord(a.text, b.text));
 }
@@ -35,6 +41,7 @@ public:
 
     std::optional<std::vector<TextWord>> Replace(std::size_t most) {
         for (std::size_t at = 0; at < m_Words.size();) {
+            // Asked at each word, because a short one may be replaced by a long text.
             if (m_Result.size() > most) {
                 return std::nullopt;
             }
@@ -60,12 +67,14 @@ private:
     void PutReplacement(const TextWord& replaced, const std::vector<TextWord>& by) {
         bool first = true;
         for (TextWord word : by) {
+            // Messages about the new words point at the place of the old ones.
             word.place = replaced.place;
             word.comment = first ? replaced.comment : SourcePlace{};
             word.glued = first ? replaced.glued : word.glued;
             Put(std::move(word));
             first = false;
         }
+        // A word behind a blank that is taken away leaves a gap, a glued one leaves none.
         m_bApart = by.empty() && (m_bApart || !replaced.glued);
     }
 
@@ -77,12 +86,14 @@ private:
         } else {
             word.text.replace(word.text.size() - length, length, by);
         }
+        // Nothing is left of a word that was the part and no more.
         if (!word.text.empty()) {
             Put(std::move(word));
         }
     }
 
     void Put(TextWord word) {
+        // Marks end words, so :X:-NO is four of them; with PRE put in for three, PRE-NO is one.
         word.glued = word.glued && !m_bApart;
         m_bApart = false;
         const bool joins = word.glued && word.kind == WordKind::Word && !m_Result.empty() &&

@@ -17,7 +17,8 @@ struct Replacement {
 
 /// Replaces, from left to right, what the first fitting pair names. What was put in is not
 /// replaced again. Words that stand side by side without a blank in the end are one word.
-/// Returns nothing when the result would hold more than `most` words.
+/// What is put in for whole words stands, for messages, where the first of these stood. Returns
+/// nothing when the result grows beyond `most` words before all of `words` are read.
 std::optional<std::vector<TextWord>> ReplaceWords(const std::vector<TextWord>& words,
                                                   const std::vector<Replacement>& pairs,
                                                   std::size_t most);

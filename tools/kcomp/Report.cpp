@@ -1,3 +1,6 @@
+// Lines are written as they come. All complaints are counted, but only the first ones are shown:
+// one mistake early in a source can bring thousands, and those behind it say nothing new.
+
 #include "kcomp/Report.h"
 
 namespace {
@@ -11,6 +14,7 @@ void CKTReport::Error(const SourcePlace& place, const CKTMessageText& text) {
     if (m_nErrors <= kMostShown) {
         WriteLine(place, " : Error : ", text);
     } else if (m_nErrors == kMostShown + 1) {
+        // Said once, and of no place.
         WriteLine({}, " : Error : ", TextOf<Message::MoreErrors>());
     }
 }

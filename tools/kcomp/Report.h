@@ -31,6 +31,7 @@ public:
     /// Writes "FILE(LINE) : Note : text", which is not counted.
     void Note(const SourcePlace& place, const CKTMessageText& text);
 
+    /// How many complaints there were, those that are not shown among them.
     [[nodiscard]] std::size_t Errors() const { return m_nErrors; }
 
 private:

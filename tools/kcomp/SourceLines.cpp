@@ -1,4 +1,9 @@
-// Reads columns, comments, directives and continuation, so that what follows sees plain text.
+// Reads columns, comments, directives and continuation, so that what follows sees plain text. One
+// line comes after the other; what is carried over is a literal that is open and a comment that
+// waits for text. What cannot be read becomes a fault in its place, for whoever needs the text that
+// stood there, and the next line is read. Directives for compiling parts of the text are not obeyed
+// and become faults. Splitting into words is left to TextWords.cpp.
+
 #include "kcomp/SourceLines.h"
 
 #include <algorithm>
@@ -14,6 +19,7 @@ constexpr std::size_t kTextEnd = 72;    // the text of a fixed line ends in this
 constexpr std::size_t kBodyWidth = 65;  // columns 8 to 72
 
 bool IsControl(char c) {
+    // A form feed only turns the page of a listing.
     return (static_cast<unsigned char>(c) < ' ' && c != '\f') || c == '\x7F';
 }
 
@@ -75,6 +81,7 @@ public:
 private:
     /// The text of a directive line, or nothing when the line is none.
     [[nodiscard]] static std::optional<std::string_view> DirectiveOf(std::string_view line) {
+        // Before the directive there may be a sequence number.
         const std::string_view numbered =
             line.size() > kIndicator ? line.substr(kIndicator) : std::string_view();
         for (const std::string_view text : {Trim(line), Trim(numbered)}) {
@@ -104,9 +111,12 @@ private:
     }
 
     void AddFixed(std::string_view line) {
+        // There is a sequence number at most.
         if (line.size() <= kIndicator) {
             return;
         }
+        // Columns 73 to 80 are for marks of any kind. Text there is remembered, to explain a
+        // literal that lost its end.
         m_bMore = line.find_first_not_of(' ', std::min(line.size(), kTextEnd)) != line.npos;
         const std::string_view body = line.substr(0, kTextEnd).substr(kIndicator + 1);
         switch (line[kIndicator]) {
@@ -121,6 +131,7 @@ private:
             case '/':
                 NoteComment(body);
                 break;
+            // A debugging line counts only for who debugs.
             case 'D':
             case 'd':
                 break;
@@ -136,6 +147,7 @@ private:
     }
 
     void BeginLine(std::string_view body) {
+        // One that is open has lost its end, which shows when it is split into words.
         CloseLiteral();
         if (body.find_first_not_of(' ') != std::string_view::npos && IsReadable(body)) {
             m_Lines.emplace_back();
@@ -148,6 +160,7 @@ private:
         if (first == std::string_view::npos || !IsReadable(body)) {
             return;
         }
+        // A line that is a fault holds no text to go on from.
         if (m_Lines.empty() || !m_Lines.back().fault.Empty()) {
             AddFault(TextOf<Message::NothingToContinue>());
             return;
@@ -155,10 +168,13 @@ private:
         std::string& text = m_Lines.back().text;
         std::size_t column = first;
         if (m_cHalf != '\0' && body.substr(first, 2) == std::string(2, m_cHalf)) {
+            // The second of the two marks belongs to the one in the last column.
             ++column;
         } else if (m_cOpen == '\0') {
+            // A word goes on where it ended, without the blanks in between.
             text.erase(text.find_last_not_of(' ') + 1);
         } else if (body[first] == m_cOpen) {
+            // Up to the last column all blanks are part of the literal.
             text.append(kBodyWidth - std::min(m_nBody, kBodyWidth), ' ');
             ++column;
         } else {
@@ -186,6 +202,7 @@ private:
                 NoteComment(body.substr(i));
                 break;
             }
+            // The splitter knows one kind of blank.
             line.text += c == '\f' ? ' ' : c;
         }
         line.cut = m_cOpen != '\0' && m_bMore;

@@ -1,3 +1,9 @@
+// A file becomes lines, the lines words, and for each COPY statement come the words of its file,
+// which is read in the same way. The recursion is bounded by its depth, and the total by the words
+// that copies bring in, since files that each copy the next one twice double the text with every
+// step. REPLACING applies to all that a copy file brings, its own copies included. Faults become
+// words: where no data are described they do no harm, and who reads the data complains.
+
 #include "kcomp/SourceReader.h"
 
 #include <algorithm>
@@ -11,6 +17,7 @@ namespace {
 
 constexpr std::size_t kMostNested = 50;
 constexpr std::size_t kMostCopied = 2'000'000;
+// Opening a file takes time even when it is empty.
 constexpr std::size_t kCostOfFile = 100;  // in words
 
 std::optional<std::string> ContentOf(const std::string& path) {
@@ -59,6 +66,7 @@ bool IsReplace(const std::vector<TextWord>& words, std::size_t at) {
 
 std::optional<std::vector<TextWord>> CKTSourceReader::Read(const std::string& path,
                                                            std::optional<SourceFormat> format) {
+    // A text that fits both formats is read as fixed.
     SourceFormat used = format.value_or(SourceFormat::Fixed);
     auto words = WordsOf(path, used, !format.has_value());
     if (!words) {
@@ -87,6 +95,7 @@ std::vector<TextWord> CKTSourceReader::Expand(std::vector<TextWord> words, Sourc
         if (IsReplace(words, at)) {
             const std::size_t end = EndOfStatement(words, at);
             words[at].kind = WordKind::Replace;
+            // Only OFF makes a difference to what follows.
             words[at].text = words[at + 1].text;
             expanded.push_back(std::move(words[at]));
             at = end;
@@ -98,6 +107,7 @@ std::vector<TextWord> CKTSourceReader::Expand(std::vector<TextWord> words, Sourc
         }
         const CopyStatement copy = ReadCopy(words, at);
         std::vector<TextWord> copied = Copied(copy, format);
+        // A comment before the statement goes to the first word that it brings.
         if (!copied.empty() && copied.front().comment.line == 0) {
             copied.front().comment = words[at].comment;
         }
@@ -127,9 +137,11 @@ std::vector<TextWord> CKTSourceReader::Copied(const CopyStatement& copy, SourceF
     if (m_Open.size() > kMostNested) {
         return fault(TextOf<Message::CopyTooDeep>());
     }
+    // Asked before the file is opened, because a source may hold any number of statements.
     if (m_nCopied > kMostCopied) {
         return fault(TextOf<Message::CopyTooLarge>());
     }
+    // The file may have another format than what copies it, without changing that.
     auto words = WordsOf(*path, format, true);
     if (!words) {
         return fault(TextOf<Message::UnreadableCopyFile>(Quoted(*path)));
@@ -145,6 +157,7 @@ std::vector<TextWord> CKTSourceReader::Copied(const CopyStatement& copy, SourceF
         return expanded;
     }
     auto replaced = ReplaceWords(expanded, copy.pairs, kMostCopied - m_nCopied);
+    // A copy that grew too large uses the rest up.
     m_nCopied += replaced ? replaced->size() : kMostCopied;
     return replaced ? std::move(*replaced) : fault(TextOf<Message::CopyTooLarge>());
 }
@@ -154,6 +167,7 @@ CKTSourceReader::CopyStatement CKTSourceReader::ReadCopy(const std::vector<TextW
                                                          std::size_t at) {
     CopyStatement copy;
     copy.name = words[at++];
+    // Known in any case, so that a faulty statement is passed over as a whole.
     copy.end = EndOfStatement(words, at);
     const auto is = [&words, &at](std::string_view word) {
         return at < words.size() && IsWord(words[at], word);
@@ -166,6 +180,7 @@ CKTSourceReader::CopyStatement CKTSourceReader::ReadCopy(const std::vector<TextW
         copy.fault = TextOf<Message::CopyWithoutName>();
         return copy;
     }
+    // Complaints point at the word COPY, also when the name stands in another line.
     const SourcePlace place = copy.name.place;
     copy.name = words[at++];
     copy.name.place = place;
@@ -173,6 +188,7 @@ CKTSourceReader::CopyStatement CKTSourceReader::ReadCopy(const std::vector<TextW
         copy.fault = TextOf<Message::CopyFromLibrary>();
         return copy;
     }
+    // That is about the listing only.
     if (is("SUPPRESS")) {
         ++at;
         at += is("PRINTING") ? 1 : 0;
@@ -203,9 +219,11 @@ bool CKTSourceReader::ReadPair(const std::vector<TextWord>& words, std::size_t& 
         return false;
     }
     ++at;
+    // Text can be replaced by nothing, but nothing cannot be looked for.
     if (!ReadOperand(words, at, pair.by) || pair.from.empty()) {
         return false;
     }
+    // A part of a word is replaced by such a part or taken away.
     return pair.part == Replacement::Part::Whole || (pair.from.size() == 1 && pair.by.size() <= 1);
 }
 

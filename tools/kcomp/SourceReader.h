@@ -34,13 +34,21 @@ private:
         CKTMessageText fault;  // the complaint about a statement that cannot be read
     };
 
+    /// The words of one file, without what it copies; nothing when the file cannot be read.
+    /// `format` is what the file begins with unless `detect` finds another, and what it ends with.
     std::optional<std::vector<TextWord>> WordsOf(const std::string& path, SourceFormat& format,
                                                  bool detect);
+    /// `words` with the text of the copy files in place of the COPY statements, which take over
+    /// `format` where they fit both.
     std::vector<TextWord> Expand(std::vector<TextWord> words, SourceFormat format);
+    /// The words that a statement brings in; one fault instead when it brings none.
     std::vector<TextWord> Copied(const CopyStatement& copy, SourceFormat format);
 
+    /// Reads the statement whose COPY stands at `at`.
     static CopyStatement ReadCopy(const std::vector<TextWord>& words, std::size_t at);
+    /// Reads one "... BY ..." from `at` on, which goes behind it; false when it is none.
     static bool ReadPair(const std::vector<TextWord>& words, std::size_t& at, Replacement& pair);
+    /// Reads a word or pseudo-text, likewise.
     static bool ReadOperand(const std::vector<TextWord>& words, std::size_t& at,
                             std::vector<TextWord>& operand);
 

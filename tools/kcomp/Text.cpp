@@ -1,3 +1,7 @@
+// Text as COBOL sees it. Letters are those from A to Z whatever the locale says, and all other
+// bytes pass through as they are; columns count bytes. What words and literals are is not known
+// here.
+
 #include "kcomp/Text.h"
 
 #include <algorithm>
@@ -16,6 +20,7 @@ std::string_view TakeLine(std::string_view& content) {
     const std::size_t end = content.find('\n');
     std::string_view line = content.substr(0, end);
     content.remove_prefix(end == std::string_view::npos ? content.size() : end + 1);
+    // Sources come from systems with other line ends, too.
     if (line.ends_with('\r')) {
         line.remove_suffix(1);
     }
@@ -27,6 +32,7 @@ std::string ExpandTabs(std::string_view line) {
     expanded.reserve(line.size());
     for (const char c : line) {
         if (c == '\t') {
+            // In the fixed format a column decides what text means, so a tab must take its room.
             expanded.append(kTabWidth - expanded.size() % kTabWidth, ' ');
         } else {
             expanded += c;
@@ -36,6 +42,7 @@ std::string ExpandTabs(std::string_view line) {
 }
 
 std::string_view Trim(std::string_view text) {
+    // Only blanks: tabs are expanded before anything else is done to a line.
     const std::size_t first = text.find_first_not_of(' ');
     if (first == std::string_view::npos) {
         return {};

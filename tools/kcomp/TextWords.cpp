@@ -1,3 +1,9 @@
+// Splits the text of each line from left to right; a literal without an end takes the rest of it. A
+// word keeps its spelling, its place in the file and whether a blank stood before it: a PICTURE
+// comes in pieces, and pieces of a name with a :TAG: are joined again when the tag was replaced.
+// What a word means is left to those who read it, and so is a number such as 1,5, whose comma
+// separates nothing here.
+
 #include "kcomp/TextWords.h"
 
 #include <algorithm>
@@ -7,6 +13,7 @@
 
 namespace {
 
+// Letters that say what kind of literal follows.
 constexpr std::array<std::string_view, 9> kLiteralPrefixes = {"X", "N",  "NX", "Z", "B",
                                                               "G", "BX", "H",  "U"};
 
@@ -26,6 +33,7 @@ public:
 
     void Split() {
         if (!m_Line.fault.Empty()) {
+            // It holds no text, and its place is that of the line.
             m_Words.push_back(FaultAt(Place(), m_Line.fault));
             return;
         }
@@ -58,6 +66,7 @@ private:
             } else {
                 ++m_nAt;
             }
+            // Behind a separator a new word begins, with a blank or without.
             m_bGlued = false;
         } else {
             TakePlainWord();
@@ -69,6 +78,7 @@ private:
         while (end < m_sText.size() && !EndsWord(end)) {
             ++end;
         }
+        // A quotation mark ends any other word, and the literal comes next.
         const bool literal = end < m_sText.size() && IsQuote(m_sText[end]) &&
                              IsLiteralPrefix(m_sText.substr(m_nAt, end - m_nAt));
         if (literal) {
@@ -94,6 +104,7 @@ private:
         } else {
             m_Words.push_back(FaultAt(Place(), m_Line.cut ? TextOf<Message::CutLiteral>()
                                                           : TextOf<Message::OpenLiteral>()));
+            // Nothing tells what of the rest was meant to be text.
             m_nAt = m_sText.size();
         }
     }
@@ -111,6 +122,7 @@ private:
         if (c != '.' && c != ',' && c != ';') {
             return false;
         }
+        // Commas and semicolons are often set between literals without a blank.
         const bool behindLiteral =
             at == m_nAt && m_bGlued && !m_Words.empty() && m_Words.back().kind == WordKind::Literal;
         if (c != '.' && behindLiteral) {
@@ -128,6 +140,7 @@ private:
     }
 
     [[nodiscard]] SourcePlace Place() const {
+        // The text may come from several lines of the file, of which the first begins at 0.
         const auto after = std::upper_bound(
             m_Line.segments.begin(), m_Line.segments.end(), m_nAt,
             [](std::size_t at, const LogicalLine::Segment& s) { return at < s.offset; });
@@ -165,6 +178,7 @@ std::string TextOfLiteral(const TextWord& literal) {
     std::string text;
     for (std::size_t i = quote + 1; i + 1 < literal.text.size(); ++i) {
         text += literal.text[i];
+        // Of a doubled mark the second one is passed over.
         i += literal.text[i] == literal.text[quote] ? 1 : 0;
     }
     return text;
