@@ -150,7 +150,10 @@ private:
         m_nAt += m_nAt < m_Words.size() && IsWord(m_Words[m_nAt], "OF") ? 1 : 0;
         const std::size_t place = m_nAt;
         if (m_nAt < m_Words.size() && m_Words[m_nAt].kind == WordKind::Literal) {
-            return static_cast<Number>(TextOfLiteral(m_Words[m_nAt++]).size());
+            const TextWord& literal = m_Words[m_nAt++];
+            // Of a hexadecimal one two digits are a byte.
+            const std::size_t digits = literal.text.find_first_of("xX") == 0 ? 2 : 1;
+            return static_cast<Number>(TextOfLiteral(literal).size() / digits);
         }
         const std::string name = m_nAt < m_Words.size() ? ToUpper(m_Words[m_nAt++].text) : "";
         std::vector<std::string> groups;

@@ -264,7 +264,12 @@ void CKTRecordBuilder::DescribeRenames(DataItem& item) {
     if (last == nullptr) {
         return;
     }
-    if (last->offset < first->offset || (range && last == first)) {
+    const DataItem* above = range ? last : nullptr;
+    while (above != nullptr && above != first) {
+        above = above->parent;
+    }
+    // A range neither goes back nor ends in what it begins with.
+    if (last->offset < first->offset || above != nullptr) {
         m_Context.report.Error(item.place, TextOf<Message::RenamesOrder>(
                                                Quoted(item.renamesThrough), Quoted(item.renames)));
         return;

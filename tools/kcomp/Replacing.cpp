@@ -40,11 +40,8 @@ public:
         : m_Words(words), m_Pairs(pairs) {}
 
     std::optional<std::vector<TextWord>> Replace(std::size_t most) {
-        for (std::size_t at = 0; at < m_Words.size();) {
-            // Asked at each word, because a short one may be replaced by a long text.
-            if (m_Result.size() > most) {
-                return std::nullopt;
-            }
+        // Asked at each word, because a short one may be replaced by a long text.
+        for (std::size_t at = 0; at < m_Words.size() && m_Result.size() <= most;) {
             const auto pair = std::find_if(m_Pairs.begin(), m_Pairs.end(),
                                            [this, at](const Replacement& candidate) {
                                                return candidate.part == Replacement::Part::Whole
@@ -59,6 +56,9 @@ public:
             } else {
                 PutPart(m_Words[at++], *pair);
             }
+        }
+        if (m_Result.size() > most) {
+            return std::nullopt;
         }
         return std::move(m_Result);
     }

@@ -156,7 +156,9 @@ std::vector<TextWord> CKTSourceReader::Copied(const CopyStatement& copy, SourceF
     if (copy.pairs.empty()) {
         return expanded;
     }
-    auto replaced = ReplaceWords(expanded, copy.pairs, kMostCopied - m_nCopied);
+    // What it copies in turn may have used up more than there is.
+    const std::size_t most = kMostCopied - std::min(m_nCopied, kMostCopied);
+    auto replaced = ReplaceWords(expanded, copy.pairs, most);
     // A copy that grew too large uses the rest up.
     m_nCopied += replaced ? replaced->size() : kMostCopied;
     return replaced ? std::move(*replaced) : fault(TextOf<Message::CopyTooLarge>());
