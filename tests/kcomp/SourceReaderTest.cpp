@@ -160,6 +160,8 @@ TEST_F(SourceReaderTest, CopiesThatGrowWithoutEndAreStopped) {
     }
     Write("src/f40", "A");
     EXPECT_NE(Read("COPY \"f0\".").find("!The copy files hold too much text"), std::string::npos);
+    Write("src/outer", "A COPY \"f0\".");
+    EXPECT_EQ(Read("COPY outer REPLACING A BY ==B C==."), "!The copy files hold too much text");
     const TextWord word{WordKind::Word, false, "A", {}};
     const std::vector<Replacement> pairs = {{Replacement::Part::Whole, {word}, {word, word, word}}};
     EXPECT_EQ(ReplaceWords({word, word}, pairs, 6).value().size(), 6U);
